@@ -1,0 +1,17 @@
+# GoogleTest and GoogleMock: an installed package, or built from installed sources.
+if(SK2_GOOGLETEST_SOURCES)
+  set(INSTALL_GTEST OFF)
+  set(gtest_disable_pthreads ON CACHE BOOL "" FORCE)
+  add_subdirectory(${SK2_GOOGLETEST_SOURCES} googletest EXCLUDE_FROM_ALL SYSTEM)
+  foreach(library gtest gmock)
+    target_compile_options(${library} PRIVATE -w)
+    set_target_properties(${library} PROPERTIES
+      INTERFACE_SYSTEM_INCLUDE_DIRECTORIES "$<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>")
+  endforeach()
+  add_library(sk2_gmock INTERFACE)
+  target_link_libraries(sk2_gmock INTERFACE gmock gtest)
+else()
+  find_package(GTest REQUIRED)
+  add_library(sk2_gmock INTERFACE)
+  target_link_libraries(sk2_gmock INTERFACE GTest::gmock GTest::gtest)
+endif()

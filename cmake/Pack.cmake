@@ -1,0 +1,28 @@
+# The shipped program, staged as it is installed, and the same program under other versions for the
+# tests of its title.
+#
+# sk2_pack(NAME VERSION DESCRIPTION): an executable NAME.exe of the pack with that version.
+function(sk2_pack name version description)
+  string(REPLACE "." "," SK2_RC_VERSION "${version},0")
+  set(SK2_RC_VERSION_TEXT "${version}")
+  set(SK2_RC_DESCRIPTION "${description}")
+  set(SK2_RC_FILE "${name}.exe")
+  configure_file(${CMAKE_SOURCE_DIR}/resources/sk2pack.rc.in ${CMAKE_BINARY_DIR}/generated/${name}.rc @ONLY)
+  add_executable(${name} WIN32 src/app/Main.cpp ${CMAKE_BINARY_DIR}/generated/${name}.rc)
+  set_source_files_properties(${CMAKE_BINARY_DIR}/generated/${name}.rc PROPERTIES
+    INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR}/resources
+    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/sk2pack.manifest;${CMAKE_SOURCE_DIR}/resources/sk2pack.ico")
+  target_link_libraries(${name} PRIVATE core machine)
+endfunction()
+
+sk2_pack(sk2pack ${PROJECT_VERSION} "Skidrun2 Utility Pack")
+set_target_properties(sk2pack PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/pack)
+add_custom_command(TARGET sk2pack POST_BUILD
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/languages ${CMAKE_BINARY_DIR}/pack/languages
+  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_BINARY_DIR}/pack/LICENSE.txt)
+
+set(versions ${CMAKE_BINARY_DIR}/versions)
+sk2_pack(sk2alpha 0.0.7 "Skidrun2 Utility Pack")
+sk2_pack(sk2beta 0.5.2 "Skidrun2 Utility Pack")
+sk2_pack(sk2candidate 1.2.3 "Skidrun2 Utility Pack RC1")
+set_target_properties(sk2alpha sk2beta sk2candidate PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${versions})

@@ -1,0 +1,20 @@
+#include "base/Maths.h"
+
+#include <cmath>
+#include <limits>
+
+#include "base/RuntimeError.h"
+
+namespace Maths {
+
+int32_t ToInt32(double value) {
+  // The default rounding mode is halves to even, and nothing in the program changes it.
+  const double whole = std::nearbyint(value);
+  if (!(whole >= std::numeric_limits<int32_t>::min() &&
+        whole <= std::numeric_limits<int32_t>::max())) {
+    throw RuntimeError(RuntimeError::Overflow);
+  }
+  return static_cast<int32_t>(whole);
+}
+
+}  // namespace Maths

@@ -1,0 +1,24 @@
+#include "base/PerRun.h"
+
+#include <utility>
+
+namespace RunObjects {
+
+namespace {
+std::vector<std::function<void()>>& Destroyers() {
+  static std::vector<std::function<void()>> destroyers;
+  return destroyers;
+}
+}  // namespace
+
+void OnEnd(std::function<void()> destroy) { Destroyers().push_back(std::move(destroy)); }
+
+void End() {
+  while (!Destroyers().empty()) {
+    const auto destroy = std::move(Destroyers().back());
+    Destroyers().pop_back();
+    destroy();
+  }
+}
+
+}  // namespace RunObjects

@@ -1,0 +1,42 @@
+// The one exception of the program: a failure that no contract names and that ends the user's action.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "base/RuntimeErrorTexts.h"
+
+class RuntimeError : public std::runtime_error {
+ public:
+  // The classic run-time error numbers; some rules of the pack tell failures apart by them.
+  enum Number {
+    InvalidCall = 5,
+    Overflow = 6,
+    OutOfMemory = 7,
+    TypeMismatch = 13,
+    FileNotFound = 53,
+    DeviceError = 57,
+    DiskFull = 61,
+    PermissionDenied = 70,
+    DiskNotReady = 71,
+    PathFileAccess = 75,
+    PathNotFound = 76,
+  };
+
+  // A failure with the usual cause of its number.
+  //   file   the full path of the file concerned, shown to the user; empty if there is none.
+  explicit RuntimeError(Number number, const std::string& file = "");
+
+  // A failure whose cause deserves words of its own.
+  RuntimeError(Number number, const LangText& cause, const std::string& file = "");
+
+  Number number() const { return number_; }
+  // What happened, to be looked up in the user's language.
+  const LangText& cause() const { return cause_; }
+  const std::string& file() const { return file_; }
+
+ private:
+  Number number_;
+  LangText cause_;
+  std::string file_;
+};

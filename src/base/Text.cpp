@@ -1,0 +1,45 @@
+#include "base/Text.h"
+
+#include <algorithm>
+
+namespace Text {
+
+std::string_view Trim(std::string_view text) {
+  const size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string LowerAscii(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+  return lower;
+}
+
+std::string Replace(std::string_view text, std::string_view piece, std::string_view replacement) {
+  std::string result;
+  size_t from = 0;
+  for (size_t at; (at = text.find(piece, from)) != std::string_view::npos;
+       from = at + piece.size()) {
+    result.append(text, from, at - from).append(replacement);
+  }
+  return result.append(text, from);
+}
+
+std::vector<std::string> Split(std::string_view text, std::string_view separator) {
+  std::vector<std::string> pieces;
+  size_t from = 0;
+  for (size_t at; (at = text.find(separator, from)) != std::string_view::npos;
+       from = at + separator.size()) {
+    pieces.emplace_back(text.substr(from, at - from));
+  }
+  pieces.emplace_back(text.substr(from));
+  return pieces;
+}
+
+bool Contains(std::string_view text, std::string_view piece) {
+  return text.find(piece) != std::string_view::npos;
+}
+
+}  // namespace Text

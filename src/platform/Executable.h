@@ -1,0 +1,26 @@
+// The running program's own place and version, as its file tells them.
+#pragma once
+
+#include <string>
+
+namespace Platform {
+
+// The folder of the running executable, without a backslash at its end.
+std::string ProgramFolder();
+
+// The executable's name without folder and extension, such as "sk2pack".
+std::string ExecutableName();
+
+struct ProgramVersion {
+  int major = 0;
+  int minor = 0;
+  int revision = 0;
+  std::string productName;
+  std::string fileDescription;
+};
+
+// The version resource of the running executable: the first three of its four version numbers and
+// two of its texts. Zeros and empty texts if the executable has none.
+ProgramVersion ReadProgramVersion();
+
+}  // namespace Platform

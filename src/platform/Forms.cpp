@@ -1,0 +1,272 @@
+#include "platform/Forms.h"
+
+#include <algorithm>
+#include <map>
+#include <new>
+
+#include "base/PerRun.h"
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "platform/FormView.h"
+#include "platform/MsgBox.h"
+#include "platform/Translation.h"
+
+namespace Platform {
+
+// The windows of a run and which of them is seen.
+struct Stage {
+  Form* main = nullptr;
+  Form* current = nullptr;  // on the screen; null only before the start and after the end
+  bool isLeaving = false;   // current has given up its place, and waits for who takes it
+  int dispatches = 0;       // events being handled, one within the other
+  bool hasEnded = false;
+  std::vector<Form*> modals;  // over the current window, the one in use last
+
+  void Put(Form& form);
+  void Settle();
+  void End();
+  void Forget(Form& form);
+};
+
+namespace {
+
+Stage& TheStage() { return PerRun<Stage>(); }
+
+// Tells the user that an action could not be finished.
+void Report(const LangText& cause, const std::string& file) {
+  std::string text = Translate(cause);
+  if (!file.empty()) {
+    text.append(Text::LineEnd).append(Translate(RuntimeErrorTexts.File)) += " " + file;
+  }
+  MsgBox(text, Translate(RuntimeErrorTexts.Title), Icon::Critical);
+}
+
+void AddSharedKeys(std::vector<std::string>& shared, const std::vector<std::string>& captions) {
+  std::map<char, std::string> owners;
+  for (const std::string& caption : captions) {
+    const char key = AccessKey(caption);
+    if (key == 0) continue;
+    const auto [owner, isFirst] = owners.emplace(key, caption);
+    if (!isFirst) shared.push_back(owner->second + " / " + caption);
+  }
+}
+
+void AddSharedKeys(std::vector<std::string>& shared, const std::vector<MenuItem*>& items) {
+  std::vector<std::string> captions;
+  for (const MenuItem* item : items) {
+    captions.push_back(item->caption());
+    AddSharedKeys(shared, item->items());
+  }
+  AddSharedKeys(shared, captions);
+}
+
+}  // namespace
+
+void Stage::Put(Form& form) {
+  isLeaving = false;
+  if (hasEnded || current == &form) return;
+  Form* const previous = current;
+  // The new window is shown before the old one goes, so that no other program comes between them.
+  current = &form;
+  form.isVisible_ = true;
+  form.view_->Show();
+  if (previous) {
+    previous->isVisible_ = false;
+    if (previous->view_) previous->view_->Hide();
+  }
+}
+
+void Stage::Settle() {
+  if (!isLeaving || !modals.empty() || hasEnded) return;
+  isLeaving = false;
+  if (main && current != main) main->Show();
+}
+
+void Stage::End() {
+  hasEnded = true;
+  if (!current) return;
+  current->isVisible_ = false;
+  if (current->view_) current->view_->Hide();
+  current = nullptr;
+}
+
+void Stage::Forget(Form& form) {
+  if (current == &form) current = nullptr;
+  if (main == &form) main = nullptr;
+  std::erase(modals, &form);
+}
+
+Form::Form(const LangText& title) : titleText_(title) {
+  TheStage();  // made before any window of the run, and so destroyed after it
+}
+
+Form::~Form() {
+  TakeDown();
+  TheStage().Forget(*this);
+}
+
+void Form::SetTitle(const std::string& title) {
+  title_ = title;
+  if (view_) view_->TitleChanged();
+}
+
+void Form::Show() {
+  Load();
+  TheStage().Put(*this);
+}
+
+void Form::Leave() {
+  if (TheStage().current != this) return;
+  TheStage().isLeaving = true;
+  if (TheStage().dispatches == 0) TheStage().Settle();
+}
+
+void Form::Unload() {
+  if (!view_) return;
+  if (OnUnload) OnUnload();
+  Stage& stage = TheStage();
+  if (this == stage.main) return EndProgram();
+  if (isModal_) return EndModal();
+  if (this == stage.current && stage.main) stage.main->Show();
+  TakeDown();
+}
+
+void Form::ShowModal() {
+  Load();
+  Stage& stage = TheStage();
+  Form* const owner = ActiveForm();
+  stage.modals.push_back(this);
+  isModal_ = true;
+  isVisible_ = true;
+  view_->RunModal(owner ? owner->view() : nullptr);
+  isVisible_ = false;
+  isModal_ = false;
+  std::erase(stage.modals, this);
+  TakeDown();
+}
+
+void Form::EndModal() {
+  if (isModal_) view_->EndModal();
+}
+
+void Form::Load() {
+  if (view_) return;
+  title_ = Translate(titleText_);
+  for (Control* control : controls_) control->caption_ = Translate(control->captionText_);
+  focus_ = nullptr;
+  MoveFocusOn();
+  view_ = std::make_unique<FormView>(*this);
+  if (!OnLoad) return;
+  try {
+    OnLoad();
+  } catch (...) {
+    TakeDown();
+    throw;
+  }
+}
+
+void Form::TakeDown() {
+  isVisible_ = false;
+  view_.reset();
+}
+
+void Form::MoveFocusOn() {
+  const auto here = std::find(controls_.begin(), controls_.end(), focus_);
+  const auto takesFocus = [](const Control* control) { return control->TakesFocus(); };
+  auto next = std::find_if(here, controls_.end(), takesFocus);
+  if (next == controls_.end()) next = std::find_if(controls_.begin(), here, takesFocus);
+  focus_ = next == controls_.end() || !takesFocus(*next) ? nullptr : *next;
+  if (view_) view_->FocusChanged();
+}
+
+void Form::TranslateMenu() {
+  for (MenuItem* item : menuItems_) item->Translate();
+  if (view_) view_->MenuChanged();
+}
+
+Button* Form::defaultButton() const {
+  for (Control* control : controls_) {
+    if (control->kind() != Control::Kind::Button) continue;
+    auto* button = static_cast<Button*>(control);
+    if (button->IsDefault()) return button;
+  }
+  return nullptr;
+}
+
+Button* Form::cancelButton() const {
+  for (Control* control : controls_) {
+    if (control->kind() != Control::Kind::Button) continue;
+    auto* button = static_cast<Button*>(control);
+    if (button->IsCancel()) return button;
+  }
+  return nullptr;
+}
+
+bool Form::KeyDown(KeyEvent key) {
+  if (!OnKeyDown) return false;
+  if (focus_ && focus_->kind() == Control::Kind::TextBox) {
+    const bool isCommand = key.shift == Shift::Ctrl && key.code >= 'A' && key.code <= 'Z';
+    const bool isEditing = isCommand ? std::string("ACVXZ").find(static_cast<char>(key.code)) !=
+                                           std::string::npos
+                                     : !(key.shift & (Shift::Ctrl | Shift::Alt)) ||
+                                           (key.code >= Key::End && key.code <= Key::Delete);
+    if (isEditing && key.code != Key::Escape && key.code != Key::Enter) return false;
+  }
+  Dispatch([&] { OnKeyDown(key); });
+  return key.isHandled;
+}
+
+void Form::CloseRequested() {
+  Dispatch([this] {
+    if (OnClose) return OnClose();
+    Unload();
+  });
+}
+
+void Form::FocusArrived(Control& control) { focus_ = &control; }
+
+void Dispatch(const std::function<void()>& handler) {
+  ++TheStage().dispatches;
+  try {
+    handler();
+  } catch (const RuntimeError& error) {
+    Report(error.cause(), error.file());
+  } catch (const std::bad_alloc&) {
+    Report(RuntimeErrorTexts.OutOfMemory, "");
+  } catch (const std::exception&) {
+    Report(RuntimeErrorTexts.Unexpected, "");
+  }
+  if (--TheStage().dispatches == 0) TheStage().Settle();
+}
+
+void StartProgram(Form& main) {
+  TheStage().main = &main;
+  Dispatch([&] { main.Show(); });
+}
+
+Form& MainForm() { return *TheStage().main; }
+
+void EndProgram() {
+  TheStage().End();
+  EndMessageLoop();
+}
+
+bool HasProgramEnded() { return TheStage().hasEnded; }
+
+Form* ActiveForm() {
+  const Stage& stage = TheStage();
+  return stage.modals.empty() ? stage.current : stage.modals.back();
+}
+
+std::vector<std::string> SharedAccessKeys(const Form& form) {
+  std::vector<std::string> shared;
+  std::vector<std::string> captions;
+  for (const Control* control : form.controls()) {
+    if (control->IsEnabled() && control->IsVisible()) captions.push_back(control->caption());
+  }
+  AddSharedKeys(shared, captions);
+  AddSharedKeys(shared, form.menus());
+  return shared;
+}
+
+}  // namespace Platform

@@ -1,0 +1,25 @@
+// The lookup behind every text that the user sees. Translations stand in the language file: the
+// program folder, the executable's name, ".lng".
+#pragma once
+
+#include <string>
+
+#include "base/LangText.h"
+
+// What every caller passes: ";" starts a comment, and what stands before it is trimmed.
+inline constexpr int WithComments = -1;
+
+// The text that the language file has for a key, or the default.
+//   key      compared with its letter case; it must start its line, with "=" directly behind it.
+//   english  returned as it stands if the file has no line for the key. It is then also appended to
+//            the file as it stands, so that running the program completes the file for translators.
+//   flag     WithComments, or any other value to take every line as it is.
+// If several lines have the key, the last one counts. "{sc}", in its four spellings that differ in
+// letter case, becomes ";" in a text from the file. A file that cannot be read or written changes
+// nothing else: the default is returned. Never fails.
+//
+// The file is read again only when its size or last-write time has changed since the last lookup.
+std::string GetLangString(const std::string& key, const std::string& english, int flag);
+
+// The text of a table, as all callers look it up.
+std::string GetLangString(const LangText& text);
