@@ -10,7 +10,9 @@ struct LangText {
 };
 
 // A text that is never translated.
-constexpr LangText FixedText(const char* text) { return {nullptr, text}; }
+constexpr LangText FixedText(const char* text) {
+  return {nullptr, text};
+}
 
 // All texts of a table, in the order they stand in it. A table is a struct that holds LangTexts and
 // nothing else, so that a text cannot be declared without also being listed for the translators.

@@ -17,8 +17,8 @@ class LineReader {
 
   explicit LineReader(Source source);
 
-  // Takes the next line, without its end. A line ends at CR or CR LF; a lone LF is part of the line.
-  // A text that ends in a line end has no further empty line behind it.
+  // Takes the next line, without its end. A line ends at CR or CR LF; a lone LF is part of the
+  // line. A text that ends in a line end has no further empty line behind it.
   //   line   valid until the next call.
   // Returns false at the end of the text. Fails with RuntimeError OutOfMemory at a line longer than
   // LongestLine, and with whatever the source fails with.

@@ -11,7 +11,9 @@ std::vector<std::function<void()>>& Destroyers() {
 }
 }  // namespace
 
-void OnEnd(std::function<void()> destroy) { Destroyers().push_back(std::move(destroy)); }
+void OnEnd(std::function<void()> destroy) {
+  Destroyers().push_back(std::move(destroy));
+}
 
 void End() {
   while (!Destroyers().empty()) {

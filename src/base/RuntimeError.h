@@ -1,4 +1,5 @@
-// The one exception of the program: a failure that no contract names and that ends the user's action.
+// The one exception of the program: a failure that no contract names and that ends the user's
+// action.
 #pragma once
 
 #include <stdexcept>

@@ -38,7 +38,9 @@ void Control::SetVisible(bool isVisible) {
   if (form_.view()) form_.view()->StateChanged(*this);
 }
 
-bool Control::TakesFocus() const { return kind_ != Kind::Label && isEnabled_ && isVisible_; }
+bool Control::TakesFocus() const {
+  return kind_ != Kind::Label && isEnabled_ && isVisible_;
+}
 
 void Control::Focus() {
   if (!TakesFocus()) return;
@@ -46,7 +48,9 @@ void Control::Focus() {
   if (form_.view()) form_.view()->FocusChanged();
 }
 
-bool Control::HasFocus() const { return form_.focus() == this; }
+bool Control::HasFocus() const {
+  return form_.focus() == this;
+}
 
 void TextBox::SetText(const std::string& text) {
   text_ = text;

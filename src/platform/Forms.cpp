@@ -30,7 +30,9 @@ struct Stage {
 
 namespace {
 
-Stage& TheStage() { return PerRun<Stage>(); }
+Stage& TheStage() {
+  return PerRun<Stage>();
+}
 
 // Tells the user that an action could not be finished.
 void Report(const LangText& cause, const std::string& file) {
@@ -206,10 +208,10 @@ bool Form::KeyDown(KeyEvent key) {
   if (!OnKeyDown) return false;
   if (focus_ && focus_->kind() == Control::Kind::TextBox) {
     const bool isCommand = key.shift == Shift::Ctrl && key.code >= 'A' && key.code <= 'Z';
-    const bool isEditing = isCommand ? std::string("ACVXZ").find(static_cast<char>(key.code)) !=
-                                           std::string::npos
-                                     : !(key.shift & (Shift::Ctrl | Shift::Alt)) ||
-                                           (key.code >= Key::End && key.code <= Key::Delete);
+    const bool isEditing =
+        isCommand ? std::string("ACVXZ").find(static_cast<char>(key.code)) != std::string::npos
+                  : !(key.shift & (Shift::Ctrl | Shift::Alt)) ||
+                        (key.code >= Key::End && key.code <= Key::Delete);
     if (isEditing && key.code != Key::Escape && key.code != Key::Enter) return false;
   }
   Dispatch([&] { OnKeyDown(key); });
@@ -223,7 +225,9 @@ void Form::CloseRequested() {
   });
 }
 
-void Form::FocusArrived(Control& control) { focus_ = &control; }
+void Form::FocusArrived(Control& control) {
+  focus_ = &control;
+}
 
 void Dispatch(const std::function<void()>& handler) {
   ++TheStage().dispatches;
@@ -244,14 +248,18 @@ void StartProgram(Form& main) {
   Dispatch([&] { main.Show(); });
 }
 
-Form& MainForm() { return *TheStage().main; }
+Form& MainForm() {
+  return *TheStage().main;
+}
 
 void EndProgram() {
   TheStage().End();
   EndMessageLoop();
 }
 
-bool HasProgramEnded() { return TheStage().hasEnded; }
+bool HasProgramEnded() {
+  return TheStage().hasEnded;
+}
 
 Form* ActiveForm() {
   const Stage& stage = TheStage();

@@ -1,0 +1,12 @@
+#include "app/CheckWhat.h"
+
+#include "app/AppTexts.h"
+#include "app/Interface.h"
+#include "base/SharedTexts.h"
+
+CheckWhat::CheckWhat()
+    : Chooser(AppTexts.CheckWhatTitle, AppTexts.CheckWhatText,
+              {{SharedTexts.Vehicle, Interface::TellNotAvailable},
+               {SharedTexts.Track, Interface::TellNotAvailable},
+               {AppTexts.RecFile, Interface::TellNotAvailable}},
+              MainWindow::ComesBack) {}

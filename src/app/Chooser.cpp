@@ -1,0 +1,41 @@
+#include "app/Chooser.h"
+
+#include <utility>
+
+#include "base/SharedTexts.h"
+#include "text/StringTable.h"
+
+Chooser::Chooser(const LangText& title, const LangText& prompt, std::vector<Entry> entries,
+                 MainWindow whileRunning)
+    : Form(title),
+      entries_(std::move(entries)),
+      whileRunning_(whileRunning),
+      What(*this, {.label = prompt}),
+      Submit(*this, {.text = SharedTexts.OKButton, .isDefault = true}),
+      Ccl(*this, {.text = SharedTexts.CclButton, .isCancel = true}) {
+  OnLoad = [this] { Form_Load(); };
+  OnClose = [this] { Ccl_Click(); };
+  What.OnDoubleClick = [this] { Submit_Click(); };
+  Submit.OnClick = [this] { Submit_Click(); };
+  Ccl.OnClick = [this] { Ccl_Click(); };
+}
+
+void Chooser::Form_Load() {
+  What.Clear();
+  for (const Entry& entry : entries_) What.Add(GetLangString(entry.text));
+  What.Select(0);
+}
+
+void Chooser::Submit_Click() {
+  if (What.selected() < 0) return;
+  if (whileRunning_ == MainWindow::ComesBack) {
+    Platform::MainForm().Show();
+  } else {
+    Leave();
+  }
+  entries_[static_cast<size_t>(What.selected())].run();
+}
+
+void Chooser::Ccl_Click() {
+  Leave();
+}

@@ -1,0 +1,45 @@
+#include "app/Interface.h"
+
+#include "app/About.h"
+#include "app/Addresses.h"
+#include "app/AppTexts.h"
+#include "app/CheckWhat.h"
+#include "app/NewWhat.h"
+#include "app/PackageWhat.h"
+#include "base/PerRun.h"
+#include "platform/Executable.h"
+#include "platform/MsgBox.h"
+#include "platform/ShellOpen.h"
+#include "text/StringTable.h"
+
+namespace Interface {
+
+void ChooseNew() {
+  PerRun<NewWhat>().Show();
+}
+void ChoosePackage() {
+  PerRun<PackageWhat>().Show();
+}
+void ChooseCheck() {
+  PerRun<CheckWhat>().Show();
+}
+
+void ViewDocumentation() {
+  Platform::ShellOpen(Platform::ProgramFolder() + "\\sk2pack.chm");
+}
+void VisitPublisher() {
+  Platform::ShellOpen(Addresses::PublisherSite);
+}
+void VisitMaker() {
+  Platform::ShellOpen(Addresses::MakerSite);
+}
+void ShowAbout() {
+  About::ShowAbout();
+}
+
+void TellNotAvailable() {
+  Platform::MsgBox(GetLangString(AppTexts.NotAvailableText),
+                   GetLangString(AppTexts.NotAvailableTitle), Platform::Icon::Information);
+}
+
+}  // namespace Interface

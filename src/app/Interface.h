@@ -1,0 +1,20 @@
+// The actions that the menus, their shortcuts and the choosers run. Those of a tool only call it.
+#pragma once
+
+namespace Interface {
+
+// The three choosers take the main window's place.
+void ChooseNew();
+void ChoosePackage();
+void ChooseCheck();
+
+// Opens the help file beside the program. Whether there is one is the system's to tell.
+void ViewDocumentation();
+void VisitPublisher();
+void VisitMaker();
+void ShowAbout();
+
+// Says that a tool which a chooser offers does not exist in this version of the pack.
+void TellNotAvailable();
+
+}  // namespace Interface

@@ -1,0 +1,10 @@
+// The program: it starts, handles events until its main window closes, and cleans up.
+#include "app/Start.h"
+#include "base/PerRun.h"
+#include "platform/FormView.h"
+
+int main() {
+  StartPack();
+  Platform::RunMessageLoop();
+  RunObjects::End();
+}

@@ -1,0 +1,46 @@
+#include "app/Program.h"
+
+namespace Program {
+
+namespace {
+
+std::string Numbers(const Platform::ProgramVersion& version) {
+  std::string numbers = std::to_string(version.major) + "." + std::to_string(version.minor);
+  if (version.revision != 0) numbers += "." + std::to_string(version.revision);
+  return numbers;
+}
+
+}  // namespace
+
+ReleaseStatus StatusOf(const Platform::ProgramVersion& version) {
+  if (version.major != 0) return ReleaseStatus::Release;
+  return version.minor == 0 ? ReleaseStatus::Alpha : ReleaseStatus::Beta;
+}
+
+std::string VersionSuffix(const Platform::ProgramVersion& version) {
+  switch (StatusOf(version)) {
+    case ReleaseStatus::Alpha: return " Alpha" + std::to_string(version.revision);
+    case ReleaseStatus::Beta: return " Beta V" + Numbers(version);
+    case ReleaseStatus::Release: break;
+  }
+  return " V" + Numbers(version);
+}
+
+std::string Title(const Platform::ProgramVersion& version) {
+  std::string title = "Skidrun2 Utility Pack" + VersionSuffix(version);
+  const size_t tag = version.fileDescription.find("RC");
+  if (StatusOf(version) == ReleaseStatus::Release && tag != std::string::npos) {
+    title += version.fileDescription.substr(tag);
+  }
+  return title;
+}
+
+std::string PathBesideProgram(const std::string& ending) {
+  return Platform::ProgramFolder() + "\\" + Platform::ExecutableName() + ending;
+}
+
+std::string UpdaterPath() {
+  return Platform::ProgramFolder() + "\\orv" + Platform::ExecutableName() + "updater.exe";
+}
+
+}  // namespace Program

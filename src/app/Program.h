@@ -1,0 +1,31 @@
+// The pack itself: its version, its title, and the files that lie beside it.
+#pragma once
+
+#include <string>
+
+#include "platform/Executable.h"
+
+namespace Program {
+
+enum class ReleaseStatus { Alpha = -1, Release = 0, Beta = 1 };
+
+// Alpha below version 0.1, beta below version 1, a release from there on.
+ReleaseStatus StatusOf(const Platform::ProgramVersion& version);
+
+// What follows the product's name: " V1.2.3" (the revision only when it is not 0) for a release,
+// " Beta V0.5.2" for a beta, " Alpha7" (the revision alone) for an alpha.
+std::string VersionSuffix(const Platform::ProgramVersion& version);
+
+// The main window's title: the pack's name and the version suffix, and for a release the release
+// candidate tag, from "RC" to the end of the executable's file description, if it has one.
+std::string Title(const Platform::ProgramVersion& version);
+
+// The path of a file in the program folder that bears the executable's name: the program folder,
+// "\", the executable's name and the given ending, such as ".lng".
+std::string PathBesideProgram(const std::string& ending);
+
+// Where an update's installer is stored for its run: "orv", the executable's name and
+// "updater.exe" in the program folder, with nothing between the three.
+std::string UpdaterPath();
+
+}  // namespace Program

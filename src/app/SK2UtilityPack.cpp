@@ -1,0 +1,90 @@
+#include "app/SK2UtilityPack.h"
+
+#include <exception>
+#include <functional>
+
+#include "app/AppTexts.h"
+#include "app/FileDialogs.h"
+#include "app/Interface.h"
+#include "app/Program.h"
+#include "platform/Files.h"
+#include "platform/NamedMutex.h"
+#include "platform/Sound.h"
+
+namespace {
+
+// Nothing that fails at the start keeps the user from the rest of the program.
+void Try(const std::function<void()>& step) {
+  try {
+    step();
+  } catch (const std::exception&) {
+    return;
+  }
+}
+
+// The three shortcuts stand in the menus of vehicles and of tracks alike: they open a chooser.
+constexpr const char* CtrlN = " (CTRL+N)";
+constexpr const char* CtrlC = " (CTRL+C)";
+constexpr const char* CtrlP = " (CTRL+P)";
+
+}  // namespace
+
+SK2UtilityPack::SK2UtilityPack()
+    : Form(FixedText("Skidrun2 Utility Pack")),
+      XFile(*this, {.text = AppTexts.XFile}),
+      FClose(XFile, {.text = AppTexts.FClose, .suffix = " (Alt+F4)"}),
+      XVehicles(*this, {.text = AppTexts.XVehicle}),
+      VNew(XVehicles, {.text = AppTexts.VNew, .suffix = CtrlN}),
+      VCheck(XVehicles, {.text = AppTexts.VCheck, .suffix = CtrlC}),
+      VPackage(XVehicles, {.text = AppTexts.VPackage, .suffix = CtrlP}),
+      XTrack(*this, {.text = AppTexts.XTrack}),
+      TNew(XTrack, {.text = AppTexts.TNew, .suffix = CtrlN}),
+      TRandom(XTrack, {.text = AppTexts.TRandom}),
+      TCheck(XTrack, {.text = AppTexts.TCheck, .suffix = CtrlC}),
+      TPackage(XTrack, {.text = AppTexts.TPackage, .suffix = CtrlP}),
+      XLanguagePack(*this, {.text = AppTexts.XLanguage}),
+      LPChangeLang(XLanguagePack, {.text = AppTexts.LChangeLang}),
+      XInternet(*this, {.text = AppTexts.XInternet}),
+      IServerSelect(XInternet, {.text = AppTexts.IServerSelect}),
+      IPersonalIPViewer(XInternet, {.text = AppTexts.IPersonalIPViewer}),
+      IPackageDownloader(XInternet, {.text = AppTexts.IPackageDownloader}),
+      XGame(*this, {.text = AppTexts.XGame}),
+      GHighScores(XGame, {.text = AppTexts.GRecordViewer}),
+      GCheckScoreFile(XGame, {.text = AppTexts.GCheckRecordFile}),
+      XOptions(*this, {.text = AppTexts.XOptions}),
+      OAutoUpdate(XOptions, {.text = AppTexts.OAutoUpdate}),
+      XHelp(*this, {.text = AppTexts.XHelp}),
+      HViewDocs(XHelp, {.text = AppTexts.HViewDocs}),
+      HWebsites(XHelp, {.text = AppTexts.HWebsites}),
+      HWGLW(HWebsites, {.text = FixedText("&Gloamworks")}),
+      HWORV(HWebsites, {.text = FixedText("&Orvane Interactive")}),
+      HCheckForUpdates(XHelp, {.text = AppTexts.HCheckForUpdates}),
+      HAbout(XHelp, {.text = AppTexts.HAbout}) {
+  OnLoad = [this] { Form_Load(); };
+  OnKeyDown = [this](Platform::KeyEvent& key) { Form_KeyDown(key); };
+  FClose.OnClick = [this] { Unload(); };
+  HViewDocs.OnClick = Interface::ViewDocumentation;
+  HWGLW.OnClick = Interface::VisitPublisher;
+  HWORV.OnClick = Interface::VisitMaker;
+  HAbout.OnClick = Interface::ShowAbout;
+}
+
+void SK2UtilityPack::Form_Load() {
+  Try([] { Platform::RemoveFile(Program::UpdaterPath()); });
+  Try([this] { SetTitle(Program::Title(Platform::ReadProgramVersion())); });
+  Try([] { Platform::HoldNamedMutex("ORVSK2Pack"); });
+  Try([this] { Platform::OpenSoundDevice(*this); });
+  Try([] { SharedDialogs().Translate(); });
+  Try([this] { TranslateMenu(); });
+}
+
+void SK2UtilityPack::Form_KeyDown(Platform::KeyEvent& key) {
+  if (key.shift != Platform::Shift::Ctrl) return;
+  key.isHandled = true;
+  switch (key.code) {
+    case 'N': return Interface::ChooseNew();
+    case 'P': return Interface::ChoosePackage();
+    case 'C': return Interface::ChooseCheck();
+    default: key.isHandled = false;
+  }
+}

@@ -1,0 +1,109 @@
+#include "text/StringTable.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "app/Program.h"
+#include "base/PerRun.h"
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "platform/Files.h"
+
+namespace {
+
+// The lines of the language file as they were at the last look.
+class LanguageFile {
+ public:
+  // Reads the file again if it has changed. False if it is there but cannot be read.
+  bool Refresh();
+  std::optional<std::string> Find(const std::string& key, int flag) const;
+  void Append(const std::string& entry);
+
+ private:
+  std::string path_ = Program::PathBesideProgram(".lng");
+  std::optional<Platform::FileStamp> stamp_;
+  std::vector<std::string> lines_;
+  bool endsInOpenLine_ = false;  // the last line lacks its line end
+};
+
+// What counts of a line where ";" starts a comment. Lines without one stay as they are, blanks
+// included.
+std::string_view WithoutComment(std::string_view line) {
+  const size_t comment = line.find(';');
+  if (comment == std::string_view::npos) return line;
+  return Text::Trim(line.substr(0, comment));
+}
+
+std::string WithSemicolons(std::string text) {
+  for (const char* escape : {"{sc}", "{Sc}", "{sC}", "{SC}"}) {
+    text = Text::Replace(text, escape, ";");
+  }
+  return text;
+}
+
+bool LanguageFile::Refresh() {
+  // The stamp is taken before the file is read: a change in between is seen at the next look.
+  const auto stamp = Platform::StampOf(path_);
+  if (stamp && stamp == stamp_) return true;
+  stamp_.reset();
+  lines_.clear();
+  endsInOpenLine_ = false;
+  std::optional<std::string> bytes;
+  try {
+    bytes = Platform::ReadWholeFile(path_);
+  } catch (const RuntimeError&) {
+    return false;
+  }
+  if (bytes && !bytes->empty()) {
+    // Translators' editors end lines in CR LF, CR or LF; the empty lines that this makes of CR LF
+    // are skipped with all others.
+    std::string line;
+    for (const char c : *bytes) {
+      if (c != '\r' && c != '\n') {
+        line += c;
+      } else if (!line.empty()) {
+        lines_.push_back(std::move(line));
+        line.clear();
+      }
+    }
+    endsInOpenLine_ = !line.empty();
+    if (endsInOpenLine_) lines_.push_back(std::move(line));
+  }
+  stamp_ = stamp;
+  return true;
+}
+
+std::optional<std::string> LanguageFile::Find(const std::string& key, int flag) const {
+  const std::string start = key + "=";
+  std::optional<std::string> found;
+  for (const std::string& whole : lines_) {
+    const std::string_view line = flag == WithComments ? WithoutComment(whole) : whole;
+    if (line.starts_with(start)) found = line.substr(line.find('=') + 1);
+  }
+  return found;
+}
+
+void LanguageFile::Append(const std::string& entry) {
+  try {
+    Platform::AppendToFile(path_, (endsInOpenLine_ ? "\r\n" : "") + entry + "\r\n");
+  } catch (const RuntimeError&) {
+    // A program folder that may not be written to is no reason to stop: the default is shown.
+  }
+}
+
+}  // namespace
+
+std::string GetLangString(const std::string& key, const std::string& english, int flag) {
+  auto& file = PerRun<LanguageFile>();
+  // A file that exists but cannot be read, because an editor holds it, may have the key: appending
+  // the default would replace the translation, since the last line of a key counts.
+  if (!file.Refresh()) return english;
+  if (const auto text = file.Find(key, flag)) return WithSemicolons(*text);
+  file.Append(key + "=" + english);
+  return english;
+}
+
+std::string GetLangString(const LangText& text) {
+  return GetLangString(text.key, text.english, WithComments);
+}
