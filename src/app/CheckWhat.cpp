@@ -8,5 +8,5 @@ CheckWhat::CheckWhat()
     : Chooser(AppTexts.CheckWhatTitle, AppTexts.CheckWhatText,
               {{SharedTexts.Vehicle, Interface::TellNotAvailable},
                {SharedTexts.Track, Interface::TellNotAvailable},
-               {AppTexts.RecFile, Interface::TellNotAvailable}},
+               {AppTexts.RecFile, Interface::CheckRecords}},
               MainWindow::ComesBack) {}

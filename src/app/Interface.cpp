@@ -10,6 +10,8 @@
 #include "platform/Executable.h"
 #include "platform/MsgBox.h"
 #include "platform/ShellOpen.h"
+#include "records/HighScores.h"
+#include "records/RecordChecker.h"
 #include "text/StringTable.h"
 
 namespace Interface {
@@ -22,6 +24,13 @@ void ChoosePackage() {
 }
 void ChooseCheck() {
   PerRun<CheckWhat>().Show();
+}
+
+void ViewRecords() {
+  ShowRecordViewer();
+}
+void CheckRecords() {
+  CheckRecordsMenu();
 }
 
 void ViewDocumentation() {

@@ -8,6 +8,10 @@ void ChooseNew();
 void ChoosePackage();
 void ChooseCheck();
 
+// The record viewer takes the main window's place, unless there are no records.
+void ViewRecords();
+void CheckRecords();
+
 // Opens the help file beside the program. Whether there is one is the system's to tell.
 void ViewDocumentation();
 void VisitPublisher();

@@ -36,11 +36,7 @@ Stage& TheStage() {
 
 // Tells the user that an action could not be finished.
 void Report(const LangText& cause, const std::string& file) {
-  std::string text = Translate(cause);
-  if (!file.empty()) {
-    text.append(Text::LineEnd).append(Translate(RuntimeErrorTexts.File)) += " " + file;
-  }
-  MsgBox(text, Translate(RuntimeErrorTexts.Title), Icon::Critical);
+  MsgBox(FailureText(cause, file), Translate(RuntimeErrorTexts.Title), Icon::Critical);
 }
 
 void AddSharedKeys(std::vector<std::string>& shared, const std::vector<std::string>& captions) {
@@ -241,6 +237,14 @@ void Dispatch(const std::function<void()>& handler) {
     Report(RuntimeErrorTexts.Unexpected, "");
   }
   if (--TheStage().dispatches == 0) TheStage().Settle();
+}
+
+std::string FailureText(const LangText& cause, const std::string& file) {
+  std::string text = Translate(cause);
+  if (!file.empty()) {
+    text.append(Text::LineEnd).append(Translate(RuntimeErrorTexts.File)) += " " + file;
+  }
+  return text;
 }
 
 void StartProgram(Form& main) {

@@ -1,0 +1,94 @@
+#include "records/HighScores.h"
+
+#include <utility>
+
+#include "base/PerRun.h"
+#include "platform/MsgBox.h"
+#include "records/RecordFile.h"
+#include "text/StringTable.h"
+
+namespace {
+
+bool Confirms(const LangText& question, const LangText& title) {
+  return Platform::MsgBox(GetLangString(question), GetLangString(title), Platform::Icon::Question,
+                          Platform::Buttons::YesNoDefaultNo) == Platform::Answer::Yes;
+}
+
+}  // namespace
+
+HighScores::HighScores() : Form(RecordTexts.RecordViewerTitle) {
+  Tracks.OnSelect = [this] { Tracks_Click(); };
+  Del.OnClick = [this] { Del_Click(); };
+  Reset.OnClick = [this] { Reset_Click(); };
+  Ccl.OnClick = [this] { Ccl_Click(); };
+}
+
+void HighScores::ShowRecords(std::vector<std::string> records) {
+  records_ = std::move(records);
+  Tracks.Clear();
+  for (const std::string& record : records_) {
+    if (const auto track = RecordFile::TrackOf(record)) Tracks.Add(*track);
+  }
+  Tracks.Select(0);
+  ShowSelectedTime();
+  Show();
+}
+
+std::string HighScores::RecordTimeText(int index) const {
+  return HasRecord(index) ? RecordFile::TimeTextOf(records_[static_cast<size_t>(index)]) : "";
+}
+
+void HighScores::DeleteRecord(int index) {
+  if (!HasRecord(index)) return;
+  if (!Confirms(RecordTexts.DeleteRecordWarningText, RecordTexts.DeleteRecordWarningTitle)) return;
+  std::vector<std::string> remaining = records_;
+  remaining.erase(remaining.begin() + index);
+  RecordFile::Write(remaining);
+  records_ = std::move(remaining);
+  Tracks.Remove(index);
+  ShowSelectedTime();
+  Tracks.Focus();
+}
+
+void HighScores::ClearRecords() {
+  if (!Confirms(RecordTexts.ClearRecordsWarningText, RecordTexts.ClearRecordsWarningTitle)) return;
+  RecordFile::Write({});
+  records_.clear();
+  Tracks.Clear();
+  ShowSelectedTime();
+  Tracks.Focus();
+}
+
+void HighScores::Tracks_Click() {
+  ShowSelectedTime();
+}
+
+void HighScores::Del_Click() {
+  DeleteRecord(Tracks.selected());
+}
+
+void HighScores::Reset_Click() {
+  ClearRecords();
+}
+
+void HighScores::Ccl_Click() {
+  Unload();
+}
+
+bool HighScores::HasRecord(int index) const {
+  return index >= 0 && static_cast<size_t>(index) < records_.size();
+}
+
+void HighScores::ShowSelectedTime() {
+  Score.SetText(RecordTimeText(Tracks.selected()));
+}
+
+void ShowRecordViewer() {
+  std::vector<std::string> records = RecordFile::Read();
+  if (records.empty()) {
+    Platform::MsgBox(GetLangString(RecordTexts.NoRecordsText),
+                     GetLangString(RecordTexts.NoRecordsTitle), Platform::Icon::Information);
+    return;
+  }
+  PerRun<HighScores>().ShowRecords(std::move(records));
+}

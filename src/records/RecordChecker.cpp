@@ -1,0 +1,71 @@
+#include "records/RecordChecker.h"
+
+#include <algorithm>
+
+#include "base/LineReader.h"
+#include "base/RuntimeError.h"
+#include "base/SharedTexts.h"
+#include "platform/Files.h"
+#include "platform/Forms.h"
+#include "platform/MsgBox.h"
+#include "platform/Numbers.h"
+#include "records/RecordFile.h"
+#include "records/RecordTexts.h"
+#include "text/StringTable.h"
+
+namespace {
+
+// What is wrong with a line; null if nothing is.
+const LangText* FaultOf(std::string_view line) {
+  if (std::count(line.begin(), line.end(), '=') != 1) return &RecordTexts.CSFInvalidFormat;
+  if (!Platform::ParseNumber(line.substr(line.find('=') + 1))) return &RecordTexts.CSFInvalidValue;
+  return nullptr;
+}
+
+// CheckRecordFile, for a file that is there and can be read.
+int64_t CheckLines(const std::string& path, std::string& message) {
+  Platform::FileReader file(path);
+  LineReader lines([&](char* buffer, size_t size) { return file.Read(buffer, size); });
+  std::string_view line;
+  for (int64_t number = 1; lines.Next(line); ++number) {
+    if (const LangText* fault = FaultOf(line)) {
+      message = GetLangString(*fault);
+      return number;
+    }
+  }
+  message = GetLangString(RecordTexts.CSFFileOK);
+  return 0;
+}
+
+}  // namespace
+
+int64_t CheckRecordFile(const std::string& path, std::string& message) {
+  if (!Platform::FileExists(path)) {
+    message = GetLangString(RecordTexts.CSFNonexistentRecordsFile);
+    return MissingRecordFile;
+  }
+  try {
+    return CheckLines(path, message);
+  } catch (const RuntimeError& error) {
+    message = Platform::FailureText(error.cause(), path);
+    return UnreadableRecordFile;
+  }
+}
+
+void CheckRecordsMenu() {
+  using Platform::Icon;
+  std::string message;
+  const int64_t line = CheckRecordFile(RecordFile::Path(), message);
+  if (line == MissingRecordFile) {
+    Platform::MsgBox(GetLangString(RecordTexts.RecordFileNonexistentText),
+                     GetLangString(RecordTexts.RecordFileNonexistentTitle), Icon::Critical);
+  } else if (line == UnreadableRecordFile) {
+    Platform::MsgBox(message, GetLangString(RuntimeErrorTexts.Title), Icon::Critical);
+  } else if (line != 0) {
+    Platform::MsgBox(GetLangString(SharedTexts.Line) + " " + std::to_string(line) + ", " + message,
+                     GetLangString(SharedTexts.SyntaxError), Icon::Critical);
+  } else {
+    Platform::MsgBox(GetLangString(RecordTexts.RecordFileOKText),
+                     GetLangString(RecordTexts.RecordFileOKTitle), Icon::Information);
+  }
+}

@@ -1,0 +1,50 @@
+#include "records/RecordFile.h"
+
+#include "app/Application.h"
+#include "base/LineReader.h"
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+#include "records/TimeConverter.h"
+
+namespace RecordFile {
+
+std::string Path() {
+  return Application::GameFolder() + "\\highscore.cfg";
+}
+
+std::vector<std::string> Read() {
+  std::vector<std::string> records;
+  for (const std::string& line : LinesOf(Platform::ReadWholeFile(Path()).value_or(""))) {
+    const std::string_view record = Text::Trim(line);
+    if (!record.empty()) records.emplace_back(record);
+  }
+  return records;
+}
+
+void Write(const std::vector<std::string>& records) {
+  std::string bytes;
+  for (const std::string& record : records) bytes.append(record).append(Text::LineEnd);
+  Platform::WriteWholeFile(Path(), bytes);
+}
+
+std::optional<std::string> TrackOf(const std::string& record) {
+  const size_t equals = record.find('=');
+  if (equals == std::string::npos) return std::nullopt;
+  return record.substr(0, equals);
+}
+
+std::string TimeTextOf(const std::string& record) {
+  const size_t equals = record.find('=');
+  if (equals == std::string::npos) return "";
+  int32_t milliseconds = 0;
+  try {
+    milliseconds = Platform::ParseInt32(std::string_view(record).substr(equals + 1));
+  } catch (const RuntimeError&) {
+    return "";
+  }
+  return TimeConverter(milliseconds, TimeForm::Words);
+}
+
+}  // namespace RecordFile
