@@ -6,7 +6,7 @@
 
 CheckWhat::CheckWhat()
     : Chooser(AppTexts.CheckWhatTitle, AppTexts.CheckWhatText,
-              {{SharedTexts.Vehicle, Interface::TellNotAvailable},
-               {SharedTexts.Track, Interface::TellNotAvailable},
+              {{SharedTexts.Vehicle, Interface::CheckVehicle},
+               {SharedTexts.Track, Interface::CheckTrack},
                {AppTexts.RecFile, Interface::CheckRecords}},
               MainWindow::ComesBack) {}

@@ -13,6 +13,8 @@
 #include "records/HighScores.h"
 #include "records/RecordChecker.h"
 #include "text/StringTable.h"
+#include "tracks/TrackManager.h"
+#include "vehicles/CarManager.h"
 
 namespace Interface {
 
@@ -24,6 +26,13 @@ void ChoosePackage() {
 }
 void ChooseCheck() {
   PerRun<CheckWhat>().Show();
+}
+
+void CheckVehicle() {
+  CarManager::CheckVehicleMenu();
+}
+void CheckTrack() {
+  TrackManager::CheckTrackMenu();
 }
 
 void ViewRecords() {

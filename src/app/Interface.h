@@ -8,6 +8,9 @@ void ChooseNew();
 void ChoosePackage();
 void ChooseCheck();
 
+void CheckVehicle();
+void CheckTrack();
+
 // The record viewer takes the main window's place, unless there are no records.
 void ViewRecords();
 void CheckRecords();

@@ -63,6 +63,8 @@ SK2UtilityPack::SK2UtilityPack()
   OnLoad = [this] { Form_Load(); };
   OnKeyDown = [this](Platform::KeyEvent& key) { Form_KeyDown(key); };
   FClose.OnClick = [this] { Unload(); };
+  VCheck.OnClick = Interface::CheckVehicle;
+  TCheck.OnClick = Interface::CheckTrack;
   GHighScores.OnClick = Interface::ViewRecords;
   GCheckScoreFile.OnClick = Interface::CheckRecords;
   HViewDocs.OnClick = Interface::ViewDocumentation;

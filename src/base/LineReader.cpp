@@ -1,39 +1,64 @@
 #include "base/LineReader.h"
 
-#include <cstring>
 #include <utility>
 
 #include "base/RuntimeError.h"
 
 namespace {
 constexpr size_t BlockSize = 1 << 16;
+// What FindCr may look at behind the bytes that were read.
+constexpr size_t Margin = sizeof(uint64_t);
+}  // namespace
+
+LineReader::LineReader(Source source) : source_(std::move(source)), buffer_(BlockSize + Margin) {}
+
+// The next line where its end is not, or not wholly, among the bytes that were read.
+bool LineReader::NextAcrossBlocks(std::string_view& line) {
+  if (!PassLf()) return false;
+  size_t length = FindCr(buffer_.data() + begin_, end_ - begin_);
+  while (length >= end_ - begin_) {
+    const size_t searched = end_ - begin_;
+    if (searched > LongestLine || !Refill()) break;
+    length = searched + FindCr(buffer_.data() + begin_ + searched, end_ - begin_ - searched);
+  }
+  length = std::min(length, end_ - begin_);
+  if (length > LongestLine) throw RuntimeError(RuntimeError::OutOfMemory);
+  line = {buffer_.data() + begin_, length};
+  return PassCr(length);
 }
 
-LineReader::LineReader(Source source) : source_(std::move(source)), buffer_(BlockSize) {}
-
-bool LineReader::Next(std::string_view& line) {
-  if (endedInCr_) {
-    if (begin_ == end_ && !Refill()) return false;
-    if (buffer_[begin_] == '\n') ++begin_;
-    endedInCr_ = false;
-  }
-  size_t searched = 0;
+bool LineReader::Skip() {
+  if (!PassLf()) return false;
+  bool isEmpty = true;
   for (;;) {
-    const char* unread = buffer_.data() + begin_;
-    if (const void* cr = std::memchr(unread + searched, '\r', end_ - begin_ - searched)) {
-      line = {unread, static_cast<size_t>(static_cast<const char*>(cr) - unread)};
-      if (line.size() > LongestLine) throw RuntimeError(RuntimeError::OutOfMemory);
-      begin_ += line.size() + 1;
-      endedInCr_ = true;
-      return true;
-    }
-    searched = end_ - begin_;
-    if (searched > LongestLine) throw RuntimeError(RuntimeError::OutOfMemory);
-    if (!Refill()) break;
+    const size_t length = FindCr(buffer_.data() + begin_, end_ - begin_);
+    if (length < end_ - begin_) return PassCr(length);
+    isEmpty = isEmpty && begin_ == end_;
+    begin_ = end_;
+    if (!Refill()) return !isEmpty;
   }
-  line = {buffer_.data() + begin_, end_ - begin_};
-  begin_ = end_;
-  return !line.empty();
+}
+
+// Goes on behind the unread line of that length. The text may end in place of the CR.
+// Returns false if there is no line at all.
+bool LineReader::PassCr(size_t length) {
+  if (length == end_ - begin_) {
+    begin_ = end_;
+    return length > 0;
+  }
+  begin_ += length + 1;
+  endedInCr_ = true;
+  if (begin_ < end_) PassLf();
+  return true;
+}
+
+// Goes on behind the LF of the last line end. Returns false at the end of the text.
+bool LineReader::PassLf() {
+  if (!endedInCr_) return true;
+  if (begin_ == end_ && !Refill()) return false;
+  if (buffer_[begin_] == '\n') ++begin_;
+  endedInCr_ = false;
+  return true;
 }
 
 // Reads one more block behind the unread bytes, which may move. False at the end of the source.
@@ -42,8 +67,9 @@ bool LineReader::Refill() {
   std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
   end_ -= begin_;
   begin_ = 0;
-  if (buffer_.size() - end_ < BlockSize / 2) buffer_.resize(buffer_.size() * 2);
-  const size_t count = source_(buffer_.data() + end_, buffer_.size() - end_);
+  const size_t capacity = buffer_.size() - Margin;
+  if (capacity - end_ < BlockSize / 2) buffer_.resize(capacity * 2 + Margin);
+  const size_t count = source_(buffer_.data() + end_, buffer_.size() - Margin - end_);
   end_ += count;
   isAtEnd_ = count == 0;
   return !isAtEnd_;

@@ -1,7 +1,11 @@
 // Reads a text line by line from a source of blocks, in bounded memory.
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -24,16 +28,54 @@ class LineReader {
   // LongestLine, and with whatever the source fails with.
   bool Next(std::string_view& line);
 
+  // Passes over the next line, which may be of any length. Returns false at the end of the text.
+  // Fails with whatever the source fails with.
+  bool Skip();
+
  private:
+  static size_t FindCr(const char* text, size_t size);
+  bool NextAcrossBlocks(std::string_view& line);
+  bool PassCr(size_t length);
+  bool PassLf();
   bool Refill();
 
   Source source_;
+  // The unread bytes are buffer_[begin_, end_). FindCr looks a few bytes further.
   std::vector<char> buffer_;
-  size_t begin_ = 0;  // the unread bytes are buffer_[begin_, end_)
+  size_t begin_ = 0;
   size_t end_ = 0;
   bool isAtEnd_ = false;
-  bool endedInCr_ = false;  // the last line ended in CR: an LF that comes next belongs to it
+  bool endedInCr_ = false;  // CR was the last byte of a block: an LF that comes next belongs to it
 };
 
 // All lines of a text that is in memory, by the rules of LineReader but of any length.
 std::vector<std::string> LinesOf(std::string_view text);
+
+// The number of bytes before the first CR; at least size if there is none. Most lines are a few
+// bytes long: eight at a time are examined without a call. Up to seven bytes behind the text are
+// looked at too.
+inline size_t LineReader::FindCr(const char* text, size_t size) {
+  static_assert(std::endian::native == std::endian::little);
+  constexpr uint64_t Ones = 0x0101010101010101;
+  constexpr size_t Short = 32;
+  for (size_t at = 0; at < std::min(size, Short); at += sizeof(uint64_t)) {
+    uint64_t bytes;
+    std::memcpy(&bytes, text + at, sizeof bytes);
+    const uint64_t crIsZero = bytes ^ (Ones * '\r');
+    // The lowest bit that is set stands in the first byte that is zero.
+    const uint64_t zeros = (crIsZero - Ones) & ~crIsZero & (Ones * 0x80);
+    if (zeros != 0) return at + static_cast<size_t>(std::countr_zero(zeros)) / 8;
+  }
+  if (size <= Short) return size;
+  const void* cr = std::memchr(text + Short, '\r', size - Short);
+  return cr ? static_cast<size_t>(static_cast<const char*>(cr) - text) : size;
+}
+
+inline bool LineReader::Next(std::string_view& line) {
+  const char* const unread = buffer_.data() + begin_;
+  const size_t length = FindCr(unread, end_ - begin_);
+  if (length + 1 >= end_ - begin_ || length > LongestLine) return NextAcrossBlocks(line);
+  line = {unread, length};
+  begin_ += length + (unread[length + 1] == '\n' ? 2 : 1);
+  return true;
+}

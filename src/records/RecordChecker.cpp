@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "base/LineReader.h"
+#include "app/CheckReport.h"
 #include "base/RuntimeError.h"
 #include "base/SharedTexts.h"
+#include "platform/FileLines.h"
 #include "platform/Files.h"
 #include "platform/Forms.h"
 #include "platform/MsgBox.h"
@@ -24,8 +25,7 @@ const LangText* FaultOf(std::string_view line) {
 
 // CheckRecordFile, for a file that is there and can be read.
 int64_t CheckLines(const std::string& path, std::string& message) {
-  Platform::FileReader file(path);
-  LineReader lines([&](char* buffer, size_t size) { return file.Read(buffer, size); });
+  Platform::FileLines lines(path);
   std::string_view line;
   for (int64_t number = 1; lines.Next(line); ++number) {
     if (const LangText* fault = FaultOf(line)) {
@@ -62,8 +62,7 @@ void CheckRecordsMenu() {
   } else if (line == UnreadableRecordFile) {
     Platform::MsgBox(message, GetLangString(RuntimeErrorTexts.Title), Icon::Critical);
   } else if (line != 0) {
-    Platform::MsgBox(GetLangString(SharedTexts.Line) + " " + std::to_string(line) + ", " + message,
-                     GetLangString(SharedTexts.SyntaxError), Icon::Critical);
+    CheckReport::ShowFault(line, message, SharedTexts.SyntaxError);
   } else {
     Platform::MsgBox(GetLangString(RecordTexts.RecordFileOKText),
                      GetLangString(RecordTexts.RecordFileOKTitle), Icon::Information);

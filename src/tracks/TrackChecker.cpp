@@ -1,0 +1,159 @@
+#include "tracks/TrackChecker.h"
+
+#include <exception>
+#include <string_view>
+
+#include "base/Maths.h"
+#include "base/RuntimeError.h"
+#include "base/SharedTexts.h"
+#include "platform/FileLines.h"
+#include "platform/Numbers.h"
+#include "text/StringTable.h"
+#include "tracks/TrackTexts.h"
+
+namespace {
+
+constexpr int32_t LastCurve = 12;
+constexpr int32_t LastSurface = 3;
+constexpr int32_t ShortestLength = 5000;
+constexpr int32_t EndMarker = -1;
+
+class Checker {
+ public:
+  // Reads the file up to its first fault. Fails where the file cannot be read, or a line that must
+  // be converted cannot be.
+  void Check(const std::string& path);
+
+  int32_t code() const { return code_; }
+  const std::string& message() const { return message_; }
+  int32_t lines() const { return Maths::ToInt32(static_cast<double>(lines_)); }
+
+ private:
+  // What the line stands for. A line after a complete part is the end marker or the next curve.
+  enum Position { Start, Curve, Surface, Length, End, Weather };
+
+  void TakeLine(std::string_view line);
+  void TakeText();
+  void Fail(int32_t code, const std::string& message);
+  std::string Prefix() const;
+
+  int64_t lines_ = 0;
+  int64_t part_ = 1;
+  int position_ = Start;
+  int32_t code_ = 0;
+  std::string message_;
+};
+
+std::string InBrackets(const std::string& text) {
+  return "(" + text + "): ";
+}
+
+// The text of a range, such as "... must be between 0 and 3.".
+std::string Range(const LangText& text, const LangText& word, int32_t last) {
+  return GetLangString(text) + " 0 " + GetLangString(word) + " " + std::to_string(last) + ".";
+}
+
+void Checker::Check(const std::string& path) {
+  Platform::FileLines lines(path);
+  std::string_view line;
+  while (position_ != Weather && lines.Next(line)) {
+    ++lines_;
+    ++position_;
+    TakeLine(line);
+    if (code_ != 0) return;
+  }
+  while (lines.Skip()) ++lines_;
+  if (position_ < End) {
+    return Fail(TrackFault::NoEnd,
+                InBrackets(GetLangString(TrackTexts.End)) + GetLangString(TrackTexts.NoTrackEnd));
+  }
+  message_ = std::to_string(lines_) + " " + GetLangString(TrackTexts.Lines) + ", " +
+             std::to_string(part_) + " " + GetLangString(TrackTexts.Parts) + ", " +
+             GetLangString(TrackTexts.CTFCheckTrackSuccessful);
+}
+
+void Checker::TakeLine(std::string_view line) {
+  const auto number = Platform::ParseNumber(line);
+  if (!number) return TakeText();
+  const int32_t value = Maths::ToInt32(*number);
+  if (position_ == End && value != EndMarker) {
+    ++part_;
+    position_ = Curve;
+  }
+  switch (position_) {
+    case Curve:
+      if (value < 0 || value > LastCurve) {
+        Fail(TrackFault::CurveOutOfRange,
+             Prefix() + Range(TrackTexts.CTFTrackPartOutOfRange, SharedTexts.And, LastCurve));
+      }
+      break;
+    case Surface:
+      if (value < 0 || value > LastSurface) {
+        Fail(TrackFault::SurfaceOutOfRange,
+             Prefix() +
+                 Range(TrackTexts.CTFTrackSurfaceTypeOutOfRange, SharedTexts.And, LastSurface));
+      }
+      break;
+    case Length:
+      if (value < ShortestLength) {
+        Fail(TrackFault::LengthTooLow,
+             Prefix() + GetLangString(TrackTexts.CTFTrackSectionLengthTooLow) + " " +
+                 std::to_string(ShortestLength) + " " + GetLangString(TrackTexts.OrMore) + ".");
+      }
+      break;
+    case Weather:
+      if (value < 0 || value > 1) {
+        Fail(TrackFault::WeatherOutOfRange,
+             InBrackets(GetLangString(TrackTexts.End)) +
+                 Range(TrackTexts.CTFWeatherOutOfRange, SharedTexts.Or, 1));
+      }
+      break;
+  }
+}
+
+// A line that is no number is a fault with words of its own within a part only; where the next part
+// or the weather may begin, it is converted untested.
+void Checker::TakeText() {
+  switch (position_) {
+    case Curve:
+      return Fail(TrackFault::CurveNotNumeric,
+                  Prefix() + GetLangString(TrackTexts.CTFInvalidTrackCurveFormat));
+    case Surface:
+      return Fail(TrackFault::SurfaceNotNumeric,
+                  Prefix() + GetLangString(TrackTexts.CTFInvalidTrackSurfaceTypeFormat));
+    case Length:
+      return Fail(TrackFault::LengthNotNumeric,
+                  Prefix() + GetLangString(TrackTexts.CTFInvalidTrackLengthFormat));
+    default:
+      throw RuntimeError(RuntimeError::TypeMismatch);
+  }
+}
+
+void Checker::Fail(int32_t code, const std::string& message) {
+  code_ = code;
+  message_ = message;
+}
+
+// Where the fault is: the line of the part and the part, such as "(L2P5): ".
+std::string Checker::Prefix() const {
+  return InBrackets(GetLangString(TrackTexts.LineFirstLetter) + std::to_string(position_) +
+                    GetLangString(TrackTexts.PartFirstLetter) + std::to_string(part_));
+}
+
+}  // namespace
+
+int32_t CheckTrackFile(const std::string& path, int32_t& code, std::string& message) {
+  try {
+    Checker checker;
+    checker.Check(path);
+    const int32_t lines = checker.lines();
+    code = checker.code();
+    message = checker.message();
+    return code != 0 ? lines : 0;
+  } catch (const std::exception&) {
+    code = TrackFault::Unreadable;
+    message = InBrackets(GetLangString(TrackTexts.General)) + path + " " +
+              GetLangString(TrackTexts.DoesNotExist);
+    return -1;
+  }
+}
