@@ -1,0 +1,21 @@
+// The clock of the simulated machine. It stands still until told otherwise.
+#pragma once
+
+namespace Simulated {
+
+class Clock {
+ public:
+  // Sets the time of day, in seconds since midnight.
+  void Set(double seconds) { seconds_ = seconds; }
+  // Moves the clock on by so much each time the program has looked at it.
+  void TickPerCall(double seconds) { tick_ = seconds; }
+
+  // For the service: the time, after which the clock ticks.
+  double Look();
+
+ private:
+  double seconds_ = 12 * 60 * 60;
+  double tick_ = 0;
+};
+
+}  // namespace Simulated

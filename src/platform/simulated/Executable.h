@@ -1,0 +1,20 @@
+// The program's own file on the simulated machine.
+#pragma once
+
+#include <string>
+
+#include "platform/Executable.h"
+
+namespace Simulated {
+
+struct Executable {
+  std::string folder = "C:\\Program Files\\SK2Pack";
+  std::string name = "sk2pack";
+  Platform::ProgramVersion version{.major = 1,
+                                   .minor = 0,
+                                   .revision = 0,
+                                   .productName = "Skidrun2 Utility Pack",
+                                   .fileDescription = "Skidrun2 Utility Pack"};
+};
+
+}  // namespace Simulated

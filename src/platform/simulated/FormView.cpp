@@ -1,0 +1,107 @@
+#include "platform/FormView.h"
+
+#include "platform/simulated/Machine.h"
+#include "platform/simulated/Window.h"
+
+namespace Platform {
+
+namespace {
+
+// Finds what the user is going to do with a modal window that has just opened.
+std::function<void()> NextModalAction(const Form& form) {
+  Simulated::Script& script = Simulated::TheMachine().user.script();
+  std::string prompt;
+  for (const Control* control : form.controls()) {
+    if (control->kind() == Control::Kind::TextBox && prompt.empty()) {
+      prompt = WithoutAccessKey(control->caption());
+    }
+  }
+  script.modalsSeen.push_back({form.title(), prompt});
+  if (script.modals.empty() ||
+      (!script.modals.front().title.empty() && script.modals.front().title != form.title())) {
+    Simulated::Complain("an unexpected window: " + form.title() + " " + prompt);
+    return [] {};
+  }
+  auto action = std::move(script.modals.front().action);
+  script.modals.pop_front();
+  return action;
+}
+
+}  // namespace
+
+FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {}
+
+FormView::~FormView() = default;
+
+void FormView::Show() {
+  native_->isShown = true;
+  native_->Check();
+}
+
+void FormView::Hide() {
+  native_->isShown = false;
+}
+
+void FormView::RunModal(FormView*) {
+  const auto action = NextModalAction(native_->form);
+  native_->isModalLoopRunning = true;
+  Show();
+  action();
+  if (native_->isModalLoopRunning) {
+    Simulated::Complain("the window stayed open: " + native_->form.title());
+  }
+  Hide();
+}
+
+void FormView::EndModal() {
+  native_->isModalLoopRunning = false;
+}
+
+void FormView::TitleChanged() {
+  if (native_->isShown && native_->form.title().empty()) {
+    Simulated::Complain("a window lost its title");
+  }
+}
+
+void FormView::MenuChanged() {}
+
+void FormView::FocusChanged() {
+  if (native_->isShown) native_->CheckFocus();
+}
+
+void FormView::CaptionChanged(Control&) {
+  if (native_->isShown) native_->Check();
+}
+
+void FormView::StateChanged(Control&) {
+  if (native_->isShown) native_->Check();
+}
+
+void FormView::TextChanged(TextBox& box) {
+  native_->selections[&box] = {};
+}
+
+void FormView::AllSelected(TextBox& box) {
+  native_->selections[&box] = {.anchor = 0, .caret = box.text().size()};
+}
+
+void FormView::RowAdded(ListBox&) {}
+void FormView::RowRemoved(ListBox&, int) {}
+void FormView::RowsCleared(ListBox&) {}
+void FormView::SelectionChanged(ListBox&) {}
+
+// Events come from the test itself; in a program that runs by itself, from the steps that the user
+// was told to do then.
+void RunMessageLoop() {
+  auto& steps = Simulated::TheMachine().user.script().idleSteps;
+  while (!HasProgramEnded()) {
+    if (steps.empty()) return Simulated::Complain("the user left the program running");
+    const auto step = std::move(steps.front());
+    steps.pop_front();
+    step();
+  }
+}
+
+void EndMessageLoop() {}
+
+}  // namespace Platform

@@ -1,0 +1,29 @@
+// The keyboard of the simulated machine: keys reach the window in use as Windows' dialogs take
+// them.
+#pragma once
+
+#include <string>
+
+#include "platform/Forms.h"
+
+namespace Simulated {
+
+class Keyboard {
+ public:
+  // Presses a key with its shifting keys: "Enter", "Shift+Tab", "Ctrl+A", "Alt+F4", "Delete".
+  void Press(const std::string& name);
+  // Types the characters of a text, each with its key.
+  void Type(const std::string& text);
+
+  std::string SelectedText() const;
+  const std::string& clipboard() const { return clipboard_; }
+
+ private:
+  // A key that the window itself did not use.
+  void PressInDialog(Platform::Form& form, const Platform::KeyEvent& key);
+  void PressInTextBox(Platform::TextBox& box, const Platform::KeyEvent& key);
+
+  std::string clipboard_;
+};
+
+}  // namespace Simulated

@@ -1,0 +1,18 @@
+#include "platform/NamedMutex.h"
+
+#include "base/RuntimeError.h"
+#include "platform/simulated/Machine.h"
+
+namespace Platform {
+
+void HoldNamedMutex(const std::string& name) {
+  Simulated::Machine& machine = Simulated::TheMachine();
+  // A backslash stands between the parts of a name in the system's name space, which has none.
+  const bool isRefused = name.find('\\') != std::string::npos;
+  if (machine.faults.Strikes("HoldNamedMutex " + name) || isRefused) {
+    throw RuntimeError(RuntimeError::DeviceError);
+  }
+  machine.mutexes.Hold(name);
+}
+
+}  // namespace Platform

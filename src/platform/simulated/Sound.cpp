@@ -1,0 +1,23 @@
+#include "platform/Sound.h"
+
+#include "base/RuntimeError.h"
+#include "platform/Forms.h"
+#include "platform/simulated/Machine.h"
+
+namespace Platform {
+
+void OpenSoundDevice(Form& owner) {
+  Simulated::Machine& machine = Simulated::TheMachine();
+  if (machine.sound.IsOpen()) return;
+  if (!owner.IsLoaded()) Simulated::Complain("the sound device's owner is not loaded");
+  if (machine.faults.Strikes("OpenSoundDevice") || !machine.sound.IsPluggedIn()) {
+    throw RuntimeError(RuntimeError::DeviceError);
+  }
+  machine.sound.Open();
+}
+
+bool IsSoundDeviceOpen() {
+  return Simulated::TheMachine().sound.IsOpen();
+}
+
+}  // namespace Platform
