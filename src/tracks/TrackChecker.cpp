@@ -124,8 +124,7 @@ void Checker::TakeText() {
     case Length:
       return Fail(TrackFault::LengthNotNumeric,
                   Prefix() + GetLangString(TrackTexts.CTFInvalidTrackLengthFormat));
-    default:
-      throw RuntimeError(RuntimeError::TypeMismatch);
+    default: throw RuntimeError(RuntimeError::TypeMismatch);
   }
 }
 

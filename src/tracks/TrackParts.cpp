@@ -1,0 +1,94 @@
+#include "tracks/TrackParts.h"
+
+#include "base/PerRun.h"
+#include "base/RuntimeError.h"
+#include "platform/MsgBox.h"
+#include "platform/Numbers.h"
+#include "text/StringTable.h"
+#include "tracks/TrackFormat.h"
+#include "tracks/TrackInWork.h"
+#include "tracks/TrackManager.h"
+#include "tracks/Trackmaker.h"
+
+namespace {
+
+template <class Names>
+void Fill(Platform::ListBox& list, const Names& names) {
+  list.Clear();
+  for (const LangText& name : names) list.Add(GetLangString(name));
+  list.Select(0);
+}
+
+void Refuse(const std::string& text) {
+  Platform::MsgBox(text, GetLangString(SharedTexts.Error), Platform::Icon::Critical);
+}
+
+}  // namespace
+
+TrackParts::TrackParts() : Form(TrackTexts.NewPartTitle) {
+  OnLoad = [this] { Form_Load(); };
+  OnUnload = [this] { Form_Unload(); };
+  Submit.OnClick = [this] { Submit_Click(); };
+  Ccl.OnClick = [this] { Ccl_Click(); };
+}
+
+void TrackParts::Form_Load() {
+  PartLength.SetText("");
+  Fill(TrackSurface, TrackFormat::Surfaces);
+  Fill(TrackCurve, TrackFormat::Curves);
+}
+
+void TrackParts::Form_Unload() {
+  PerRun<Trackmaker>().Show();
+}
+
+void TrackParts::Submit_Click() {
+  const std::optional<int32_t> length = TakeLength();
+  if (!length) return;
+  const int curve = TrackCurve.selected();
+  const int surface = TrackSurface.selected();
+  const std::string line = TrackCurve.row(curve) + " " + GetLangString(TrackTexts.SectionOn) + " " +
+                           TrackSurface.row(surface) + " " + GetLangString(TrackTexts.For) + " " +
+                           std::to_string(*length) + " " + GetLangString(TrackTexts.Units) + ".";
+  TrackManager::AppendTrackPart(curve, surface, *length, TheTrack().TrackText);
+  TrackCurve.Focus();
+  TrackCurve.Select(0);
+  TrackSurface.Select(0);
+  PartLength.SetText("");
+  PerRun<Trackmaker>().Show();
+  PerRun<Trackmaker>().AddLine(line);
+}
+
+void TrackParts::Ccl_Click() {
+  PerRun<Trackmaker>().Show();
+}
+
+// The length as typed, or nothing if it is refused: the user has then been told. A length beyond 32
+// bits fails with RuntimeError Overflow. Either way the user is back at the length to mend it.
+std::optional<int32_t> TrackParts::TakeLength() {
+  if (!Platform::ParseNumber(PartLength.text())) {
+    Refuse(GetLangString(TrackTexts.LengthNotNumeric));
+    ReturnToLength();
+    return std::nullopt;
+  }
+  int32_t length = 0;
+  try {
+    length = Platform::ParseInt32(PartLength.text());
+  } catch (const RuntimeError&) {
+    ReturnToLength();
+    throw;
+  }
+  if (length < TrackFormat::ShortestPart) {
+    Refuse(GetLangString(TrackTexts.LengthTooLow) + " " +
+           std::to_string(TrackFormat::ShortestPart) + " " + GetLangString(TrackTexts.OrMore) +
+           ".");
+    ReturnToLength();
+    return std::nullopt;
+  }
+  return length;
+}
+
+void TrackParts::ReturnToLength() {
+  PartLength.Focus();
+  PartLength.SelectAll();
+}

@@ -1,0 +1,56 @@
+#include "tracks/Trackmaker.h"
+
+#include "base/PerRun.h"
+#include "tracks/TrackManager.h"
+#include "tracks/TrackParts.h"
+
+Trackmaker::Trackmaker() : Form(TrackTexts.TrackmakerTitle) {
+  OnLoad = [this] { Form_Load(); };
+  OnKeyDown = [this](Platform::KeyEvent& key) { Form_KeyDown(key); };
+  NewPart.OnClick = [this] { NewPart_Click(); };
+  Compile.OnClick = [this] { Compile_Click(); };
+  Track.OnClick = [this] { Track_Click(); };
+  Ccl.OnClick = [this] { Ccl_Click(); };
+}
+
+void Trackmaker::AddLine(const std::string& line) {
+  TrackView.Add(line);
+  TrackView.Select(TrackView.count() - 1);
+}
+
+void Trackmaker::Form_Load() {
+  TrackView.Clear();
+  NewPart.Focus();
+}
+
+void Trackmaker::Form_KeyDown(Platform::KeyEvent& key) {
+  using Platform::Shift::Alt, Platform::Shift::Ctrl;
+  void (Trackmaker::*action)() = nullptr;
+  if (key.code == 'N' && key.shift == Ctrl) action = &Trackmaker::Track_Click;
+  if (key.code == 'N' && key.shift == (Ctrl | Platform::Shift::Shift)) {
+    action = &Trackmaker::NewPart_Click;
+  }
+  if (key.code == 'C' && key.shift == Alt) action = &Trackmaker::Compile_Click;
+  if (!action) return;
+  key.isHandled = true;
+  Track.Focus();
+  (this->*action)();
+}
+
+void Trackmaker::NewPart_Click() {
+  PerRun<TrackParts>().Show();
+}
+
+void Trackmaker::Compile_Click() {
+  TrackManager::SaveTrack();
+}
+
+void Trackmaker::Track_Click() {
+  Platform::MainForm().Show();
+  TrackManager::NewTrack();
+}
+
+void Trackmaker::Ccl_Click() {
+  Track.Focus();
+  Platform::MainForm().Show();
+}
