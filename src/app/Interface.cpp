@@ -13,6 +13,7 @@
 #include "records/HighScores.h"
 #include "records/RecordChecker.h"
 #include "text/StringTable.h"
+#include "tracks/RandomTrackmaker.h"
 #include "tracks/TrackManager.h"
 #include "vehicles/CarManager.h"
 
@@ -30,6 +31,13 @@ void ChooseCheck() {
 
 void CheckVehicle() {
   CarManager::CheckVehicleMenu();
+}
+
+void NewTrack() {
+  TrackManager::NewTrack();
+}
+void RandomTrack() {
+  RandomTrackmaker::RandomTrack();
 }
 void CheckTrack() {
   TrackManager::CheckTrackMenu();

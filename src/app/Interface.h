@@ -9,6 +9,9 @@ void ChoosePackage();
 void ChooseCheck();
 
 void CheckVehicle();
+
+void NewTrack();
+void RandomTrack();
 void CheckTrack();
 
 // The record viewer takes the main window's place, unless there are no records.

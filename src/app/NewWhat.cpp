@@ -7,5 +7,5 @@
 NewWhat::NewWhat()
     : Chooser(AppTexts.NewWhatTitle, AppTexts.NewWhatPrompt,
               {{SharedTexts.Vehicle, Interface::TellNotAvailable},
-               {SharedTexts.Track, Interface::TellNotAvailable}},
+               {SharedTexts.Track, Interface::NewTrack}},
               MainWindow::StaysHidden) {}

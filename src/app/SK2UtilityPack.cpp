@@ -64,6 +64,8 @@ SK2UtilityPack::SK2UtilityPack()
   OnKeyDown = [this](Platform::KeyEvent& key) { Form_KeyDown(key); };
   FClose.OnClick = [this] { Unload(); };
   VCheck.OnClick = Interface::CheckVehicle;
+  TNew.OnClick = Interface::NewTrack;
+  TRandom.OnClick = Interface::RandomTrack;
   TCheck.OnClick = Interface::CheckTrack;
   GHighScores.OnClick = Interface::ViewRecords;
   GCheckScoreFile.OnClick = Interface::CheckRecords;
