@@ -18,7 +18,7 @@ endfunction()
 sk2_pack(sk2pack ${PROJECT_VERSION} "Skidrun2 Utility Pack")
 set_target_properties(sk2pack PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/pack)
 add_custom_command(TARGET sk2pack POST_BUILD
-  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/languages ${CMAKE_BINARY_DIR}/pack/languages
+  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/languages/template.lng ${CMAKE_BINARY_DIR}/pack/languages/template.lng
   COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_BINARY_DIR}/pack/LICENSE.txt)
 
 set(versions ${CMAKE_BINARY_DIR}/versions)

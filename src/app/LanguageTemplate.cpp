@@ -1,0 +1,45 @@
+#include "app/LanguageTemplate.h"
+
+#include <set>
+
+#include "app/AppTexts.h"
+#include "app/FileDialogTexts.h"
+#include "base/RuntimeErrorTexts.h"
+#include "base/SharedTexts.h"
+#include "internet/InternetTexts.h"
+#include "packaging/PackagingTexts.h"
+#include "records/RecordTexts.h"
+#include "text/LanguageTexts.h"
+#include "tracks/TrackTexts.h"
+#include "update/UpdateTexts.h"
+#include "vehicles/VehicleTexts.h"
+
+std::vector<LangText> AllTexts() {
+  std::vector<LangText> all;
+  const auto add = [&all](const auto& table) {
+    for (const LangText& text : TextsOf(table)) all.push_back(text);
+  };
+  add(FileDialogTexts);
+  add(AppTexts);
+  add(SharedTexts);
+  add(LanguageTexts);
+  add(VehicleTexts);
+  add(TrackTexts);
+  add(PackagingTexts);
+  add(RecordTexts);
+  add(InternetTexts);
+  add(UpdateTexts);
+  add(RuntimeErrorTexts);
+  return all;
+}
+
+std::string LanguageTemplate() {
+  std::string file;
+  std::set<std::string> keys;
+  for (const LangText& text : AllTexts()) {
+    if (keys.insert(text.key).second) {
+      file.append(text.key).append("=").append(text.english).append("\r\n");
+    }
+  }
+  return file;
+}

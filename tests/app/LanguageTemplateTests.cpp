@@ -1,0 +1,52 @@
+#include "app/LanguageTemplate.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "base/Text.h"
+#include "tests/Story.h"
+#include "text/StringTable.h"
+
+namespace {
+
+const std::string LanguageFile = "C:\\Program Files\\SK2Pack\\sk2pack.lng";
+
+class LanguageTemplateStory : public Story {};
+
+TEST_F(LanguageTemplateStory, IsWhatTheProgramMakesOfAnEmptyFile) {
+  for (const LangText& text : AllTexts()) GetLangString(text);
+  EXPECT_EQ(machine.files.Text(LanguageFile), LanguageTemplate());
+}
+
+TEST_F(LanguageTemplateStory, IsWhatTranslatorsGet) {
+  std::ifstream file(SK2_SOURCE_DIR "/languages/template.lng", std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  EXPECT_EQ(bytes.str(), LanguageTemplate()) << "build the target 'template'";
+}
+
+TEST_F(LanguageTemplateStory, GivesEveryTextItsDefaultBack) {
+  machine.files.Put(LanguageFile, LanguageTemplate());
+  for (const LangText& text : AllTexts()) {
+    // The one key with two defaults: the first one written stays.
+    const bool isInformation = std::string(text.key) == "Information";
+    EXPECT_EQ(GetLangString(text), isInformation ? "information" : text.english);
+  }
+  EXPECT_EQ(machine.files.Text(LanguageFile), LanguageTemplate());
+}
+
+TEST_F(LanguageTemplateStory, HasNoTextThatALookupWouldChange) {
+  for (const LangText& text : AllTexts()) {
+    ASSERT_NE(text.key, nullptr);
+    const std::string key = text.key;
+    EXPECT_FALSE(key.empty());
+    EXPECT_FALSE(Text::Contains(key, "=") || Text::Contains(key, ";") || Text::Contains(key, " "))
+        << key;
+    const std::string english = text.english;
+    EXPECT_FALSE(Text::Contains(english, ";") || Text::Contains(english, "\r")) << key;
+  }
+}
+
+}  // namespace

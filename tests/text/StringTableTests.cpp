@@ -1,0 +1,187 @@
+#include "text/StringTable.h"
+
+#include <gmock/gmock.h>
+
+#include "base/PerRun.h"
+#include "tests/Story.h"
+
+namespace {
+
+const std::string LanguageFile = "C:\\Program Files\\SK2Pack\\sk2pack.lng";
+
+class StringTableStory : public Story {
+ protected:
+  void FileHolds(const std::string& bytes) { machine.files.Put(LanguageFile, bytes); }
+  std::string File() { return machine.files.Text(LanguageFile); }
+  static std::string Look(const std::string& key, const std::string& english = "default") {
+    return GetLangString(key, english, WithComments);
+  }
+};
+
+TEST_F(StringTableStory, TheTextStandsBehindTheFirstEqualsSign) {
+  FileHolds("XFile=&Fichier\r\nSum=1+1=2\r\n");
+  EXPECT_EQ(Look("XFile"), "&Fichier");
+  EXPECT_EQ(Look("Sum"), "1+1=2");
+}
+
+TEST_F(StringTableStory, ACommentIsCutOffAndTheRestIsTrimmed) {
+  FileHolds("XFile=&Fichier ;menu\r\n  VNew=Neu  ; the first item\r\n");
+  EXPECT_EQ(Look("XFile"), "&Fichier");
+  EXPECT_EQ(Look("VNew"), "Neu");
+}
+
+TEST_F(StringTableStory, OnlyLinesWithACommentAreTrimmed) {
+  FileHolds("XFile=  &Fichier  \r\n  VNew=Neu\r\n");
+  EXPECT_EQ(Look("XFile"), "  &Fichier  ");
+  EXPECT_EQ(Look("VNew"), "default");
+}
+
+TEST_F(StringTableStory, ALineThatIsAllCommentIsIgnoredAndTheDefaultIsAppended) {
+  FileHolds(";XFile=Datei\r\n");
+  EXPECT_EQ(Look("XFile", "&File"), "&File");
+  EXPECT_EQ(File(), ";XFile=Datei\r\nXFile=&File\r\n");
+}
+
+TEST_F(StringTableStory, TheFourSpellingsOfTheEscapeBecomeASemicolon) {
+  FileHolds("Msg=a{sc}b{SC}c\r\nEnd=a{SC}\r\nAll={sc}{Sc}{sC}{SC}\r\nCut=a{sc\r\nOther=a{s c}\r\n");
+  EXPECT_EQ(Look("Msg"), "a;b;c");
+  EXPECT_EQ(Look("End"), "a;");
+  EXPECT_EQ(Look("All"), ";;;;");
+  EXPECT_EQ(Look("Cut"), "a{sc");
+  EXPECT_EQ(Look("Other"), "a{s c}");
+}
+
+TEST_F(StringTableStory, AnEscapeIsNotMadeOfTheRemainsOfAnother) {
+  FileHolds("Msg={s{sc}c}\r\n");
+  EXPECT_EQ(Look("Msg"), "{s;c}");
+}
+
+TEST_F(StringTableStory, AKeyIsNotFoundInALongerOne) {
+  FileHolds("VNewX=Lang\r\nAVNew=Davor\r\n");
+  EXPECT_EQ(Look("VNew"), "default");
+}
+
+TEST_F(StringTableStory, KeysAreComparedWithTheirLetterCase) {
+  FileHolds("vnew=klein\r\n");
+  EXPECT_EQ(Look("VNew"), "default");
+}
+
+TEST_F(StringTableStory, ABlankBeforeTheEqualsSignBelongsToTheKey) {
+  FileHolds("Key = Text\r\n");
+  EXPECT_EQ(Look("Key"), "default");
+}
+
+TEST_F(StringTableStory, AnEntryWithoutTextIsAnEmptyText) {
+  FileHolds("Key=\r\n");
+  EXPECT_EQ(Look("Key"), "");
+  EXPECT_EQ(File(), "Key=\r\n");
+}
+
+TEST_F(StringTableStory, OfTwoLinesForAKeyTheLaterCounts) {
+  FileHolds("Key=one\r\nOther=x\r\nKey=two\r\n");
+  EXPECT_EQ(Look("Key"), "two");
+}
+
+TEST_F(StringTableStory, AnEscapeInADefaultStaysAsItIs) {
+  EXPECT_EQ(Look("Key", "a{sc}b"), "a{sc}b");
+  EXPECT_EQ(File(), "Key=a{sc}b\r\n");
+  EXPECT_EQ(Look("Key", "a{sc}b"), "a;b");
+}
+
+TEST_F(StringTableStory, ADefaultWithASemicolonIsReturnedWholeAndCutOnceItIsInTheFile) {
+  EXPECT_EQ(Look("Key", "a; b"), "a; b");
+  EXPECT_EQ(File(), "Key=a; b\r\n");
+  EXPECT_EQ(Look("Key", "a; b"), "a");
+}
+
+TEST_F(StringTableStory, WithAnotherFlagLinesAreTakenAsTheyStand) {
+  FileHolds("Key= a ; b \r\n;Other=c\r\n");
+  EXPECT_EQ(GetLangString("Key", "default", 0), " a ; b ");
+  EXPECT_EQ(GetLangString("Key", "default", 1), " a ; b ");
+  EXPECT_EQ(GetLangString(";Other", "default", 0), "c");
+}
+
+TEST_F(StringTableStory, AMissingFileIsMadeWithTheMissingEntries) {
+  EXPECT_EQ(Look("XFile", "&File"), "&File");
+  EXPECT_EQ(Look("FClose", "&Close"), "&Close");
+  EXPECT_EQ(File(), "XFile=&File\r\nFClose=&Close\r\n");
+}
+
+TEST_F(StringTableStory, AKeyThatIsThereIsNotAppendedAgain) {
+  FileHolds("XFile=Datei\r\n");
+  Look("XFile");
+  Look("XFile");
+  EXPECT_EQ(File(), "XFile=Datei\r\n");
+}
+
+TEST_F(StringTableStory, AnEntryNeverJoinsALastLineWithoutItsEnd) {
+  FileHolds("XFile=Datei");
+  Look("FClose", "&Close");
+  EXPECT_EQ(File(), "XFile=Datei\r\nFClose=&Close\r\n");
+  EXPECT_EQ(Look("XFile"), "Datei");
+}
+
+TEST_F(StringTableStory, LinesMayEndInCrOrInLf) {
+  FileHolds("One=1\rTwo=2\nThree=3\r\n\r\nFour=4");
+  EXPECT_EQ(Look("One"), "1");
+  EXPECT_EQ(Look("Two"), "2");
+  EXPECT_EQ(Look("Three"), "3");
+  EXPECT_EQ(Look("Four"), "4");
+}
+
+TEST_F(StringTableStory, AFileThatAnotherProgramEditsIsSeenAtTheNextLookup) {
+  FileHolds("XFile=Datei\r\n");
+  EXPECT_EQ(Look("XFile"), "Datei");
+  FileHolds("XFile=Daten\r\n");  // as many bytes as before
+  EXPECT_EQ(Look("XFile"), "Daten");
+  machine.files.Delete(LanguageFile);
+  EXPECT_EQ(Look("XFile", "&File"), "&File");
+}
+
+// Other bytes under the same size and time stand for a file that is not read again.
+TEST_F(StringTableStory, AnUnchangedFileIsNotReadAgain) {
+  FileHolds("XFile=Datei\r\n");
+  EXPECT_EQ(Look("XFile"), "Datei");
+  machine.files.Find(LanguageFile)->bytes = "XFile=Daten\r\n";
+  EXPECT_EQ(Look("XFile"), "Datei");
+}
+
+TEST_F(StringTableStory, AFileThatCannotBeWrittenStopsNothing) {
+  FileHolds("XFile=Datei\r\n");
+  machine.files.SetAttributes(LanguageFile, Simulated::ReadOnly);
+  EXPECT_EQ(Look("FClose", "&Close"), "&Close");
+  EXPECT_EQ(Look("XFile"), "Datei");
+  EXPECT_EQ(File(), "XFile=Datei\r\n");
+}
+
+TEST_F(StringTableStory, AFileThatCannotBeMadeStopsNothing) {
+  machine.files.FailWrites(Simulated::After{0}, RuntimeError::DiskFull);
+  EXPECT_EQ(Look("XFile", "&File"), "&File");
+  EXPECT_FALSE(machine.files.Exists(LanguageFile));
+}
+
+// The last line of a key counts, so an appended default would take a translation's place.
+TEST_F(StringTableStory, NothingIsAppendedToAFileThatCannotBeRead) {
+  FileHolds("XFile=Datei\r\n");
+  machine.faults.FailAnyCall(Simulated::After{1});  // its stamp can be taken, its bytes cannot
+  EXPECT_EQ(Look("XFile", "&File"), "&File");
+  EXPECT_THAT(machine.FailedCall(), testing::HasSubstr("ReadWholeFile"));
+  EXPECT_EQ(File(), "XFile=Datei\r\n");
+  EXPECT_EQ(Look("XFile", "&File"), "Datei");
+}
+
+TEST_F(StringTableStory, WhateverFailsTheLookupYieldsATextAndTheFileStaysWhole) {
+  for (int n = 0;; ++n) {
+    RunObjects::End();
+    FileHolds("XFile=Datei\r\n");
+    machine.FailAnyCall(Simulated::After{n});
+    const std::string text = Look("FClose", "&Close");
+    const bool hasFailed = machine.FailureHappened();
+    EXPECT_EQ(text, "&Close");
+    EXPECT_THAT(File(), testing::AnyOf("XFile=Datei\r\n", "XFile=Datei\r\nFClose=&Close\r\n"))
+        << machine.FailedCall();
+    if (!hasFailed) break;
+  }
+}
+
+}  // namespace
