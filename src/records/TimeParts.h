@@ -7,6 +7,7 @@ struct TimeParts {
   int32_t hours;
   int32_t minutes;
   int32_t milliseconds;  // the seconds and their fraction
+  bool operator==(const TimeParts&) const = default;
 };
 
 // Divides a time, which may have any value.
