@@ -2,6 +2,7 @@
 
 #include "base/File.h"
 #include "base/RuntimeError.h"
+#include "platform/Forms.h"
 #include "platform/simulated/Machine.h"
 
 namespace Platform {
@@ -12,6 +13,8 @@ std::string FileDialog::Show() {
   if (machine.faults.Strikes("FileDialog " + title)) throw RuntimeError(RuntimeError::DeviceError);
   script.fileDialogs.push_back({kind_, title, filter, defaultExtension, initialFolder});
   if (title.empty()) Simulated::Complain("a file dialog without a title");
+  const Form* owner = ActiveForm();
+  if (owner && !owner->IsVisible()) Simulated::Complain("a file dialog over nothing: " + title);
   if (script.files.empty()) {
     Simulated::Complain("an unexpected file dialog: " + title);
     return "";

@@ -40,6 +40,12 @@ void FormView::Show() {
 
 void FormView::Hide() {
   native_->isShown = false;
+  // Another program would get the focus, and the user would hear it instead of the pack.
+  const Form* active = ActiveForm();
+  const bool isAnotherShown = active && active != &native_->form && active->IsVisible();
+  if (!isAnotherShown && !HasProgramEnded()) {
+    Simulated::Complain("no window is on the screen after " + native_->form.title());
+  }
 }
 
 void FormView::RunModal(FormView*) {
@@ -50,7 +56,7 @@ void FormView::RunModal(FormView*) {
   if (native_->isModalLoopRunning) {
     Simulated::Complain("the window stayed open: " + native_->form.title());
   }
-  Hide();
+  native_->isShown = false;
 }
 
 void FormView::EndModal() {

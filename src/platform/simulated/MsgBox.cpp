@@ -10,6 +10,7 @@ Answer MsgBox(const std::string& text, const std::string& title, Icon icon, Butt
   const Form* owner = ActiveForm();
   script.boxes.push_back({text, title, icon, buttons, owner ? owner->title() : ""});
   if (title.empty()) Simulated::Complain("a message box without a title: " + text);
+  if (owner && !owner->IsVisible()) Simulated::Complain("a message box over nothing: " + text);
   if (buttons == Buttons::Ok) return Answer::Ok;
   if (script.answers.empty()) {
     Simulated::Complain("an unexpected question: " + text);
