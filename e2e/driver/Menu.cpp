@@ -66,12 +66,6 @@ int Find(const std::vector<MenuLine>& lines, int parent, const std::string& capt
   throw std::runtime_error("no menu item \"" + caption + "\"");
 }
 
-bool IsMenuOpen(const Window& window) {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof info;
-  return GetGUIThreadInfo(window.threadId(), &info) && (info.flags & GUI_POPUPMENUMODE) != 0;
-}
-
 // The menus that are open now: the first, and each submenu of it.
 int OpenPopups(const Window& window) {
   int count = 0;
@@ -131,9 +125,8 @@ void ChooseFromMenu(const Window& window, const std::vector<std::string>& path) 
       Keyboard::Press("Enter");
     }
     if (!isLast) {
-      WaitUntil("the menu " + path[i] + " open", [&] {
-        return IsMenuOpen(window) && OpenPopups(window) == static_cast<int>(i) + 1;
-      });
+      WaitUntil("the menu " + path[i] + " open",
+                [&] { return IsInMenu(window) && OpenPopups(window) == static_cast<int>(i) + 1; });
     }
   }
 }
