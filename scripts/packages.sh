@@ -12,14 +12,22 @@ is_installed() {
 
 # install_packages NAME...: installs those that are not there; asks apt for nothing if all are.
 install_packages() {
-  local missing=() package sudo=()
+  local missing=() package log sudo=()
   for package in "$@"; do
     is_installed "$package" || missing+=("$package")
   done
   [ ${#missing[@]} -gt 0 ] || return 0
   [ "$(id -u)" = 0 ] || sudo=(sudo)
   echo "Installing ${missing[*]}"
-  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 update
-  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
-    -o Dpkg::Use-Pty=0 install --yes --no-install-recommends "${missing[@]}" >/dev/null
+  log=$(mktemp)
+  if ! {
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 update &&
+      "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
+        -o Dpkg::Use-Pty=0 install --yes --no-install-recommends "${missing[@]}"
+  } >"$log" 2>&1 </dev/null; then
+    tail -n 20 "$log" >&2
+    rm -f "$log"
+    return 1
+  fi
+  rm -f "$log"
 }
