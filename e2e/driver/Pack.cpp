@@ -88,6 +88,33 @@ void Pack::Press(const std::string& keys) {
   Keyboard::Press(keys);
 }
 
+void Pack::TabTo(const std::string& name) {
+  const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
+  const auto start = front.focus();
+  auto focus = start;
+  while (focus->name() != name) {
+    const auto before = focus;
+    Keyboard::Press("Tab");
+    WaitUntil("the focus moved by Tab", [&] { return (focus = front.focus()) && focus != before; });
+    if (focus == start) throw std::runtime_error("Tab does not reach \"" + name + "\"");
+  }
+}
+
+void Pack::Type(const std::string& text) {
+  const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
+  const Window focus = *front.focus();
+  Keyboard::Type(text);
+  WaitUntil("\"" + text + "\" typed", [&] { return focus.text().ends_with(text); });
+}
+
+void Pack::WaitForRow(const std::string& row) {
+  const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
+  WaitUntil("\"" + row + "\" selected", [&] {
+    const auto focus = front.focus();
+    return focus && focus->IsClass("ListBox") && focus->selectedRow() == row;
+  });
+}
+
 void Pack::PressInVain(const std::string& keys) {
   const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
   Keyboard::Press(keys);

@@ -43,6 +43,13 @@ class Pack {
 
   // Presses keys in the window in front, which must be one of the pack's.
   void Press(const std::string& keys);
+  // Presses Tab until the control of that name has the focus. Throws std::runtime_error if Tab
+  // comes round without it.
+  void TabTo(const std::string& name);
+  // Types a text into the focused control, and waits until it is in there.
+  void Type(const std::string& text);
+  // Waits until the list that has the focus has that row selected.
+  void WaitForRow(const std::string& row);
   // Presses keys that are to have no effect; returns when the pack has seen them.
   void PressInVain(const std::string& keys);
 

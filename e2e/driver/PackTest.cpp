@@ -29,4 +29,8 @@ BoxText PackTest::Critical(const std::string& title, const std::string& text) {
   return {title, text, BoxIcon::Critical, {"OK"}};
 }
 
+BoxText PackTest::Question(const std::string& title, const std::string& text) {
+  return {title, text, BoxIcon::Question, {"Yes", "No"}};
+}
+
 }  // namespace E2e

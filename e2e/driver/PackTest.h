@@ -28,6 +28,7 @@ class PackTest : public testing::Test {
   // For EXPECT_EQ with what a box shows.
   static BoxText Information(const std::string& title, const std::string& text);
   static BoxText Critical(const std::string& title, const std::string& text);
+  static BoxText Question(const std::string& title, const std::string& text);
 
   const std::string& gameFolder() const { return game_.folder(); }
   const std::string& programFolder() const { return programFolder_; }

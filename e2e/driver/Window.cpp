@@ -89,6 +89,24 @@ Window Window::control(const std::string& name) const {
   throw std::runtime_error("no control \"" + name + "\" in \"" + text() + "\", only" + seen);
 }
 
+std::vector<std::string> Window::rows() const {
+  std::vector<std::string> rows;
+  for (LRESULT row = 0; row < Ask(LB_GETCOUNT).value_or(0); row++) {
+    const auto length = Ask(LB_GETTEXTLEN, static_cast<WPARAM>(row));
+    std::string text(static_cast<size_t>(length.value_or(0)) + 1, '\0');
+    const auto copied =
+        Ask(LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<size_t>(copied.value_or(0)));
+    rows.push_back(text);
+  }
+  return rows;
+}
+
+std::string Window::selectedRow() const {
+  const LRESULT selected = Ask(LB_GETCURSEL).value_or(LB_ERR);
+  return selected == LB_ERR ? "" : rows().at(static_cast<size_t>(selected));
+}
+
 std::optional<Window> Window::focus() const {
   GUITHREADINFO info{};
   info.cbSize = sizeof info;

@@ -44,6 +44,9 @@ class Window {
   // That name; empty if the control has none.
   std::string name() const;
   std::optional<Window> previousSibling() const;
+  // Of a list: its rows from the top, and the selected one; empty if none is selected.
+  std::vector<std::string> rows() const;
+  std::string selectedRow() const;
   // The control with the focus in this window's thread.
   std::optional<Window> focus() const;
 
