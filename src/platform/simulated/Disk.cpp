@@ -1,10 +1,13 @@
 #include "platform/simulated/Disk.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include "base/File.h"
+#include "base/Text.h"
 #include "platform/simulated/Complaints.h"
 
 namespace Simulated {
@@ -19,6 +22,33 @@ std::string FoldCase(std::string_view text) {
   }
   return folded;
 }
+
+namespace {
+
+bool EndsInSeparator(const std::string& path) {
+  return path.ends_with('\\') || path.ends_with('/');
+}
+
+// Under what a path is found: letter case does not count, "." and ".." are resolved by their words
+// alone, and dots and blanks at the path's end are dropped.
+std::string KeyOf(const std::string& path) {
+  std::string folded = FoldCase(path);
+  std::replace(folded.begin(), folded.end(), '/', '\\');
+  std::vector<std::string> names;
+  for (const std::string& name : Text::Split(folded, "\\")) {
+    if (name == "..") {
+      if (names.size() > 1) names.pop_back();
+    } else if (!name.empty() && name != ".") {
+      names.push_back(name);
+    }
+  }
+  std::string key;
+  for (const std::string& name : names) key.append(key.empty() ? "" : "\\").append(name);
+  if (!EndsInSeparator(path)) key.erase(key.find_last_not_of(" .\\") + 1);
+  return key;
+}
+
+}  // namespace
 
 std::string BytesOf(const DiskEntry& entry) {
   if (entry.hostPath.empty()) return entry.bytes;
@@ -118,17 +148,19 @@ void Disk::CountWrite(const std::string& path) {
 }
 
 const DiskEntry* Disk::Find(const std::string& path) const {
-  const auto found = entries_.find(FoldCase(path));
-  return found == entries_.end() ? nullptr : found->second.get();
+  const auto found = entries_.find(KeyOf(path));
+  if (found == entries_.end()) return nullptr;
+  // A separator at the end of a path says that it leads to a folder.
+  const DiskEntry& entry = *found->second;
+  return entry.isFolder || !EndsInSeparator(path) ? &entry : nullptr;
 }
 
 DiskEntry* Disk::Find(const std::string& path) {
-  const auto found = entries_.find(FoldCase(path));
-  return found == entries_.end() ? nullptr : found->second.get();
+  return const_cast<DiskEntry*>(std::as_const(*this).Find(path));
 }
 
 DiskEntry& Disk::Make(const std::string& path) {
-  std::unique_ptr<DiskEntry>& entry = entries_[FoldCase(path)];
+  std::unique_ptr<DiskEntry>& entry = entries_[KeyOf(path)];
   if (!entry) {
     entry = std::make_unique<DiskEntry>();
     entry->path = path;
@@ -138,7 +170,7 @@ DiskEntry& Disk::Make(const std::string& path) {
 }
 
 void Disk::Erase(const std::string& path) {
-  entries_.erase(FoldCase(path));
+  entries_.erase(KeyOf(path));
 }
 
 std::vector<std::string> Disk::OpenFiles() const {
