@@ -15,9 +15,8 @@ struct Titles {
 };
 
 // Shows the box for what a checker returned.
-//   result   0: an information box. -1, the file could not be read: a critical one. Any other is
-//   the
-//            number of the faulty line, as for ShowFault.
+//   result   0: an information box; -1, the file could not be read: a critical one; otherwise the
+//            number of the faulty line, shown by ShowFault.
 //   message  the checker's, in the user's language.
 void Show(int32_t result, const std::string& message, const Titles& titles);
 
