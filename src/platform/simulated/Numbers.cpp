@@ -1,6 +1,7 @@
 // The number parser of Windows, with the user's separators, as its contract test pins it down.
 #include "platform/Numbers.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <limits>
@@ -23,11 +24,11 @@ class NumberScanner {
   std::optional<double> Scan() {
     SkipSpace();
     ScanPrefixes();
-    if (Take("&")) return ScanRadix();
+    if (!hasCurrency_ && Take("&")) return ScanRadix();
     if (!ScanDigits()) return std::nullopt;
     if (!ScanExponent()) return std::nullopt;
-    ScanSuffixes();
-    if (!rest_.empty() || isOpen_) return std::nullopt;
+    ScanSuffixes(true);
+    if (!IsAtEnd()) return std::nullopt;
     const double value = std::strtod(digits_.c_str(), nullptr);
     return isNegative_ ? -value : value;
   }
@@ -40,43 +41,38 @@ class NumberScanner {
   }
 
   bool SkipSpace() {
-    const size_t count = std::min(rest_.find_first_not_of(" \t\n\v\f\r"), rest_.size());
+    const size_t count = std::min(rest_.find_first_not_of(" \t\n\v\f\r\xA0"), rest_.size());
     rest_.remove_prefix(count);
     return count > 0;
   }
 
-  bool TakeSign() {
-    if (hasSign_ || (!rest_.starts_with('-') && !rest_.starts_with('+'))) return false;
-    isNegative_ = isNegative_ || rest_.front() == '-';
-    hasSign_ = rest_.front() == '-';
-    rest_.remove_prefix(1);
-    return true;
-  }
-
-  bool TakeOpening() {
-    if (isOpen_ || !Take("(")) return false;
-    return isNegative_ = isOpen_ = true;
-  }
-
-  bool TakeCurrency() {
-    if (hasCurrency_ || !Take(locale_.currency)) return false;
-    return hasCurrency_ = true;
-  }
-
+  // What may stand before the digits: each of these once, in any order, with blanks between them.
   void ScanPrefixes() {
-    while (TakeSign() || TakeOpening() || TakeCurrency() || SkipSpace()) {
+    const auto takeOnce = [this](std::string_view token, bool& isTaken) {
+      return !isTaken && (isTaken = Take(token));
+    };
+    while (takeOnce("-", hasMinus_) || takeOnce("+", hasPlus_) || takeOnce("(", hasOpening_) ||
+           takeOnce(locale_.currency, hasCurrency_) || SkipSpace()) {
+    }
+    isNegative_ = hasMinus_ || hasOpening_;
+  }
+
+  // What may stand behind the digits, as often as it likes; but not the sign that stood before
+  // them.
+  void ScanSuffixes(bool isDecimal) {
+    for (;;) {
+      if (!hasMinus_ && Take("-")) {
+        isNegative_ = true;
+      } else if (hasOpening_ && Take(")")) {
+        hasClosing_ = true;
+      } else if (!(!hasPlus_ && Take("+")) && !SkipSpace() &&
+                 !(isDecimal && (Take(locale_.currency) || Take(locale_.thousands)))) {
+        return;
+      }
     }
   }
 
-  void ScanSuffixes() {
-    for (;;) {
-      if (isOpen_ && Take(")")) {
-        isOpen_ = false;
-        continue;
-      }
-      if (!TakeSign() && !TakeCurrency() && !SkipSpace()) return;
-    }
-  }
+  bool IsAtEnd() const { return rest_.empty() && hasOpening_ == hasClosing_; }
 
   bool TakeDigits() {
     const size_t count = std::min(rest_.find_first_not_of("0123456789"), rest_.size());
@@ -93,7 +89,7 @@ class NumberScanner {
       if (!hasPoint && Take(locale_.decimal)) {
         hasPoint = true;
         digits_ += '.';
-      } else if (!hasDigits || !Take(locale_.thousands)) {
+      } else if ((!hasDigits && !hasPoint) || !Take(locale_.thousands)) {
         return hasDigits;
       }
       hasDigits = TakeDigits() || hasDigits;
@@ -119,20 +115,22 @@ class NumberScanner {
     if (radix == 0 || count == 0) return std::nullopt;
     const std::string number(rest_.substr(0, count));
     rest_.remove_prefix(count);
-    ScanSuffixes();
-    if (!rest_.empty()) return std::nullopt;
+    ScanSuffixes(false);
+    if (!IsAtEnd()) return std::nullopt;
     errno = 0;
     const unsigned long long value = std::strtoull(number.c_str(), nullptr, radix);
     if (errno != 0 || value > std::numeric_limits<int32_t>::max()) return Infinite;
-    return static_cast<double>(value);
+    return static_cast<double>(value);  // whatever sign stands beside it
   }
 
   std::string_view rest_;
   const Simulated::LocaleSettings& locale_;
   std::string digits_;
   bool isNegative_ = false;
-  bool isOpen_ = false;
-  bool hasSign_ = false;
+  bool hasMinus_ = false;
+  bool hasPlus_ = false;
+  bool hasOpening_ = false;
+  bool hasClosing_ = false;
   bool hasCurrency_ = false;
 };
 

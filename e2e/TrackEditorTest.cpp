@@ -1,0 +1,83 @@
+// A track built part by part, with the keyboard alone.
+#include "e2e/driver/PackTest.h"
+
+namespace E2e {
+namespace {
+
+constexpr const char* EditorTitle = "SK2 Trackmaker by Orvane Interactive";
+constexpr const char* PartTitle = "New track part";
+
+using TrackEditor = PackTest;
+
+TEST_F(TrackEditor, TwoPartsInTheRain) {
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Track", "New"});
+  const FileDialogDriver dialog = pack.WaitForFileDialog();
+  EXPECT_EQ(dialog.title(), "Save Skidrun2 Track file");
+  EXPECT_EQ(dialog.fileType(), "SK2 Track files (*.trk)");
+  pack.ChooseFile("Race");
+  const Window editor = pack.WaitForWindow(EditorTitle);
+
+  pack.Press("Ctrl+Shift+N");
+  pack.WaitForWindow(PartTitle);
+  pack.TabTo("Length:");
+  pack.Type("12000");
+  pack.Press("Enter");
+  pack.WaitForWindow(EditorTitle);
+
+  pack.Press("Alt+P");
+  const Window part = pack.WaitForWindow(PartTitle);
+  EXPECT_EQ(part.control("Length:").text(), "");
+  EXPECT_EQ(part.control("Curve:").selectedRow(), "Straight");
+  pack.TabTo("Curve:");
+  for (int i = 0; i < 5; i++) pack.Press("Down");
+  pack.WaitForRow("Easy Right");
+  pack.TabTo("Surface:");
+  pack.Press("Down");
+  pack.WaitForRow("Gravel");
+  pack.TabTo("Length:");
+  pack.Type("7000");
+  pack.Press("Enter");
+  pack.WaitForWindow(EditorTitle);
+  EXPECT_EQ(editor.control("Track Viewer").rows(),
+            (std::vector<std::string>{"Straight section on Asphalt for 12000 units.",
+                                      "Easy Right section on Gravel for 7000 units."}));
+
+  pack.Press("Alt+S");
+  EXPECT_EQ(pack.AnswerBox("N"),
+            Question("Weather", "Do you want your track sunny? If you choose no, it will rain!"));
+  EXPECT_EQ(pack.AnswerBox(),
+            Information("Track saved.", "Your new track has been successfully written and saved."));
+  pack.WaitForMain();
+  EXPECT_EQ(ReadFile(gameFolder() + "\\tracks\\Race.trk"),
+            "0\r\n0\r\n12000\r\n5\r\n1\r\n7000\r\n-1\r\n1\r\n");
+}
+
+TEST_F(TrackEditor, LengthThatCannotBeIsRefused) {
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Track", "New"});
+  pack.ChooseFile("Race.TRK");
+  pack.WaitForWindow(EditorTitle);
+  pack.Press("Alt+P");
+  pack.WaitForWindow(PartTitle);
+
+  pack.TabTo("Length:");
+  pack.Type("abc");
+  pack.Press("Enter");
+  EXPECT_EQ(pack.AnswerBox(), Critical("Error", "Length must be a number."));
+  pack.WaitForWindow(PartTitle);
+  pack.Type("4999");  // replaces what was refused
+  pack.Press("Enter");
+  EXPECT_EQ(pack.AnswerBox(), Critical("Error", "Length must be 5000 or more."));
+
+  pack.WaitForWindow(PartTitle);
+  pack.Press("Escape");
+  const Window editor = pack.WaitForWindow(EditorTitle);
+  EXPECT_THAT(editor.control("Track Viewer").rows(), testing::IsEmpty());
+  pack.Press("Escape");
+  pack.WaitForMain();
+  EXPECT_FALSE(Exists(gameFolder() + "\\tracks\\Race.TRK"));
+}
+
+}  // namespace
+}  // namespace E2e

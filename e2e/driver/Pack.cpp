@@ -1,0 +1,165 @@
+#include "e2e/driver/Pack.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+
+#include "e2e/driver/Accessibility.h"
+#include "e2e/driver/Keyboard.h"
+#include "e2e/driver/Picture.h"
+#include "e2e/driver/Places.h"
+#include "e2e/driver/Wait.h"
+
+namespace E2e {
+namespace {
+
+bool HasMenu(const Window& window) {
+  return GetMenu(window.handle()) != nullptr;
+}
+
+}  // namespace
+
+Pack::Pack(const std::string& programPath) : program_(programPath) {
+  AllowSetForegroundWindow(program_.processId());
+  WaitForMain();
+}
+
+bool Pack::IsInFront(const Window& window) const {
+  return window.IsForeground() && window.IsVisible() && window.IsEnabled() &&
+         window.processId() == program_.processId() && window.focus().has_value();
+}
+
+Window Pack::WaitInFront(const std::string& what, const std::function<bool(const Window&)>& isIt) {
+  const Window found = WaitFor<Window>(what + " in front", [&]() -> std::optional<Window> {
+    if (!program_.IsRunning()) throw std::runtime_error("the pack ended instead of: " + what);
+    const Window front(GetForegroundWindow());
+    if (!front.Exists() || !IsInFront(front) || !isIt(front)) return std::nullopt;
+    return front;
+  });
+  found.WaitUntilDrawn();
+  Meet(found);
+  return found;
+}
+
+Window Pack::WaitForMain() {
+  return WaitInFront("the main window", HasMenu);
+}
+
+Window Pack::WaitForWindow(const std::string& title) {
+  return WaitInFront("the window \"" + title + "\"", [&](const Window& window) {
+    return !IsBox(window) && window.text() == title;
+  });
+}
+
+BoxText Pack::WaitForBox() {
+  return ReadBox(WaitInFront("a message box", IsBox));
+}
+
+BoxText Pack::AnswerBox(const std::string& key) {
+  const Window box = WaitInFront("a message box", IsBox);
+  const BoxText text = ReadBox(box);
+  Keyboard::Press(key);
+  WaitUntilGone(box);
+  return text;
+}
+
+FileDialogDriver Pack::WaitForFileDialog() {
+  return FileDialogDriver(WaitInFront("a file dialog", FileDialogDriver::IsFileDialog));
+}
+
+void Pack::ChooseFile(const std::string& name) {
+  const Window dialog = WaitInFront("a file dialog", FileDialogDriver::IsFileDialog);
+  FileDialogDriver(dialog).Choose(name);
+  WaitUntilGone(dialog);
+}
+
+void Pack::CancelFileDialog() {
+  const Window dialog = WaitInFront("a file dialog", FileDialogDriver::IsFileDialog);
+  FileDialogDriver(dialog).Cancel();
+  WaitUntilGone(dialog);
+}
+
+void Pack::ChooseMenu(const std::vector<std::string>& path) {
+  ChooseFromMenu(WaitForMain(), path);
+}
+
+void Pack::Press(const std::string& keys) {
+  WaitInFront("a window of the pack", [](const Window&) { return true; });
+  Keyboard::Press(keys);
+}
+
+void Pack::TabTo(const std::string& name) {
+  const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
+  const auto start = front.focus();
+  auto focus = start;
+  while (focus->name() != name) {
+    const auto before = focus;
+    Keyboard::Press("Tab");
+    WaitUntil("the focus moved by Tab", [&] { return (focus = front.focus()) && focus != before; });
+    if (focus == start) throw std::runtime_error("Tab does not reach \"" + name + "\"");
+  }
+}
+
+void Pack::Type(const std::string& text) {
+  const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
+  const Window focus = *front.focus();
+  Keyboard::Type(text);
+  WaitUntil("\"" + text + "\" typed", [&] { return focus.text().ends_with(text); });
+}
+
+void Pack::WaitForRow(const std::string& row) {
+  const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
+  WaitUntil("\"" + row + "\" selected", [&] {
+    const auto focus = front.focus();
+    return focus && focus->IsClass("ListBox") && focus->selectedRow() == row;
+  });
+}
+
+void Pack::PressInVain(const std::string& keys) {
+  const Window front = WaitInFront("a window of the pack", [](const Window&) { return true; });
+  Keyboard::Press(keys);
+  // Keys arrive in order: when the next one has had its effect, these have had theirs.
+  Keyboard::Press("Alt");
+  WaitUntil("the menu bar active", [&] { return IsInMenu(front); });
+  Keyboard::Press("Escape");
+  WaitUntil("the menu bar left", [&] { return !IsInMenu(front); });
+}
+
+void Pack::Meet(const Window& window) {
+  const bool isSystems = FileDialogDriver::IsFileDialog(window);
+  const bool isBox = IsBox(window);
+  const std::string title = window.text();
+  if (!met_.insert(title + (isBox ? "\n" + ReadBox(window).text : "")).second) return;
+  SavePictureOf(window.rectangle(), title);
+  if (isSystems) return;
+  for (const std::string& line : isBox ? BrokenBoxRules(window) : BrokenRules(window)) {
+    ADD_FAILURE() << "\"" << title << "\" breaks " << line;
+  }
+}
+
+void Pack::WaitUntilGone(const Window& window) {
+  WaitUntil("\"" + window.text() + "\" gone",
+            [&] { return !window.Exists() || !window.IsVisible(); });
+}
+
+void SavePictureOf(RECT rectangle, const std::string& words) {
+  static std::string lastTest;
+  static int number = 0;
+  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+  const std::string name = std::string(test->test_suite_name()) + "." + test->name();
+  number = name == lastTest ? number + 1 : 1;
+  lastTest = name;
+  std::string file = name + "-" + std::to_string(number) + "-";
+  for (const char c : words) {
+    const bool isPlain = std::isalnum(static_cast<unsigned char>(c)) != 0;
+    if (isPlain) {
+      file += c;
+    } else if (file.back() != '-') {
+      file += '-';
+    }
+  }
+  while (file.back() == '-') file.pop_back();
+  SavePicture(TakePicture(rectangle), Given().pictures + "\\" + file + ".png");
+}
+
+}  // namespace E2e

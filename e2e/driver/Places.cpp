@@ -1,0 +1,73 @@
+#include "e2e/driver/Places.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+#include "e2e/driver/Wait.h"
+
+namespace E2e {
+
+Places& Given() {
+  static Places places;
+  return places;
+}
+
+ScratchFolder::ScratchFolder() {
+  static int count = 0;
+  char temporary[MAX_PATH] = "";
+  GetTempPathA(sizeof temporary, temporary);
+  path_ = std::string(temporary) + "sk2pack-e2e-" + std::to_string(GetCurrentProcessId()) + "-" +
+          std::to_string(++count);
+  std::filesystem::create_directories(path_);
+}
+
+ScratchFolder::~ScratchFolder() {
+  // A program that has just been ended may hold its own file for a moment.
+  try {
+    WaitUntil(path_ + " removed", [this] {
+      std::error_code failure;
+      std::filesystem::remove_all(path_, failure);
+      return !failure;
+    });
+  } catch (const Overdue&) {
+  }
+}
+
+void CopyFolder(const std::string& from, const std::string& to) {
+  std::filesystem::create_directories(to);
+  std::filesystem::copy(
+      from, to,
+      std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
+}
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw std::runtime_error("cannot read " + path);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteFile(const std::string& path, const std::string& bytes) {
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  file << bytes;
+  if (!file.flush()) throw std::runtime_error("cannot write " + path);
+}
+
+bool Exists(const std::string& path) {
+  return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+}  // namespace E2e

@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# Builds the pack and opens it on a copy of the demo game.
+#
+#   ./run.sh          until it is closed; without a display or sound hardware, on virtual ones
+#   ./run.sh --once   always on a virtual display; ends after a picture of the main window
+#
+# The copy of the game is out/run/Skidrun2, the program's folder out/run/SK2Pack; both are kept.
+set -euo pipefail
+cd "$(dirname "$0")"
+. scripts/packages.sh
+. scripts/build.sh
+. scripts/machine.sh
+. scripts/game.sh
+
+once=
+case "${1:-}" in
+  "") ;;
+  --once) once=1 ;;
+  *)
+    echo "usage: ./run.sh [--once]" >&2
+    exit 2
+    ;;
+esac
+
+trap leave_machine EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+install_packages "${pack_packages[@]}"
+build windows sk2pack windowpicture
+enter_machine out/run
+
+is_virtual=$once
+if [ -z "$once" ] && ! has_display; then
+  echo "There is no display here: using a virtual one"
+  is_virtual=1
+fi
+if [ -n "$is_virtual" ]; then start_display; fi
+if [ -n "$once" ] || ! has_sound; then
+  echo "There is no sound hardware here: using virtual speakers and microphone"
+  start_sound
+fi
+
+start_windows
+if [ -n "$is_virtual" ]; then use_virtual_desktop; else use_no_desktop; fi
+if [ ! -d out/run/Skidrun2 ]; then
+  echo "Copying the demo game to out/run/Skidrun2"
+  cp -r demo out/run/Skidrun2
+fi
+mkdir -p out/run/SK2Pack "$WINEPREFIX/drive_c/Games"
+cp -r out/windows/pack/. out/run/SK2Pack/
+ln -sfn "$machine_folder/Skidrun2" "$WINEPREFIX/drive_c/Games/Skidrun2"
+ln -sfn "$machine_folder/SK2Pack" "$WINEPREFIX/drive_c/Program Files/SK2Pack"
+register_game 'C:\Games\Skidrun2'
+
+echo "Opening the pack"
+start pack wine 'C:\Program Files\SK2Pack\sk2pack.exe'
+pack=${machine_processes[-1]}
+if [ -n "$is_virtual" ]; then
+  picture=out/run/main-window.png
+  wine out/windows/e2e/windowpicture.exe "Skidrun2 Utility Pack" "$picture" </dev/null
+  echo "The picture of the main window is $picture"
+fi
+if [ -z "$once" ]; then
+  if [ -n "$is_virtual" ]; then echo "The pack stays open until this is interrupted (Ctrl+C)"; fi
+  wait "$pack"
+fi

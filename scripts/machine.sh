@@ -1,0 +1,172 @@
+# A Windows machine to run the pack on: Wine with a display, sound and a web of its own. All that is
+# started here ends with leave_machine. Sourced, not run; the current folder is the project's.
+
+machine_processes=()
+machine_folder=
+
+# enter_machine FOLDER: everything of the machine is kept in that folder, the Wine prefix between
+# runs too.
+enter_machine() {
+  mkdir -p "$1"
+  machine_folder=$(cd "$1" && pwd)
+  # Sockets have short names only; and nobody else's business is in there.
+  machine_runtime=$(mktemp -d)
+  export WINEPREFIX=$machine_folder/prefix WINEARCH=win64 WINEDEBUG=-all
+  export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+  # File names and messages as the tests expect them, whatever the user's language is.
+  export LC_ALL=C.UTF-8
+}
+
+leave_machine() {
+  local process
+  if [ -n "$machine_folder" ] && [ -d "$WINEPREFIX" ]; then
+    wineserver -k 2>/dev/null && wineserver -w || true
+  fi
+  for process in "${machine_processes[@]}"; do
+    kill "$process" 2>/dev/null && wait "$process" 2>/dev/null || true
+  done
+  machine_processes=()
+  [ -z "${machine_runtime:-}" ] || rm -rf "$machine_runtime"
+}
+
+# start NAME COMMAND...: in the background, its output in a log of that name.
+start() {
+  local name=$1
+  shift
+  "$@" >"$machine_folder/$name.log" 2>&1 </dev/null &
+  machine_processes+=($!)
+}
+
+# wait_until WHAT COMMAND...: until it succeeds; gives up after half a minute.
+wait_until() {
+  local what=$1 deadline=$((SECONDS + 30))
+  shift
+  until "$@" >/dev/null 2>&1; do
+    if [ "$SECONDS" -ge "$deadline" ]; then
+      echo "Waited in vain for $what; see the logs in $machine_folder" >&2
+      return 1
+    fi
+    sleep 0.1
+  done
+}
+
+# True if there is a screen to show windows on.
+has_display() {
+  case ${DISPLAY:-} in
+    "") return 1 ;;
+    :*)
+      local number=${DISPLAY#:}
+      [ -S "/tmp/.X11-unix/X${number%%.*}" ]
+      ;;
+  esac
+}
+
+# True if there is something to play sounds on.
+has_sound() {
+  pactl info >/dev/null 2>&1 || compgen -G '/dev/snd/pcm*' >/dev/null
+}
+
+start_display() {
+  local number=$machine_runtime/display
+  start display sh -c 'exec Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$1"' sh "$number"
+  wait_until "the virtual display" test -s "$number"
+  export DISPLAY=:$(cat "$number")
+}
+
+# Speakers and a microphone without hardware: what is played can be recorded from speakers.monitor,
+# and what is played into microphone_feed is heard by the microphone.
+start_sound() {
+  export XDG_RUNTIME_DIR=$machine_runtime PULSE_RUNTIME_PATH=$machine_runtime/pulse
+  export PULSE_SERVER=unix:$machine_runtime/pulse.socket PULSE_STATE_PATH=$machine_runtime/pulse-state
+  cat >"$machine_folder/pulse.pa" <<END
+load-module module-native-protocol-unix socket=$machine_runtime/pulse.socket auth-anonymous=1
+load-module module-null-sink sink_name=speakers
+load-module module-null-sink sink_name=microphone_feed
+load-module module-remap-source master=microphone_feed.monitor source_name=microphone
+set-default-sink speakers
+set-default-source microphone
+END
+  start sound env -u PULSE_SERVER pulseaudio -n -F "$machine_folder/pulse.pa" --system=false \
+    --daemonize=no --use-pid-file=no --exit-idle-time=-1 --disallow-exit
+  wait_until "the sound server" pactl info
+}
+
+is_port_free() {
+  ! (exec 3<>"/dev/tcp/127.0.0.1/$1") 2>/dev/null
+}
+
+# Every address that the pack opens is answered from the folder FOLDER/web/HOST, whatever its host.
+start_web() {
+  local port user=
+  mkdir -p "$machine_folder/web" "$machine_folder/nginx"
+  [ "$(id -u)" != 0 ] || user="user root;"
+  for port in $(shuf -i 20000-30000 -n 20); do
+    is_port_free "$port" || continue
+    cat >"$machine_folder/nginx/nginx.conf" <<END
+$user
+worker_processes 1;
+pid $machine_folder/nginx/nginx.pid;
+error_log stderr;
+events {}
+http {
+  access_log $machine_folder/nginx/access.log;
+  client_body_temp_path $machine_folder/nginx/body;
+  proxy_temp_path $machine_folder/nginx/proxy;
+  fastcgi_temp_path $machine_folder/nginx/fastcgi;
+  uwsgi_temp_path $machine_folder/nginx/uwsgi;
+  scgi_temp_path $machine_folder/nginx/scgi;
+  default_type application/octet-stream;
+  server {
+    listen 127.0.0.1:$port;
+    root $machine_folder/web/\$host;
+  }
+}
+END
+    start web nginx -p "$machine_folder/nginx" -c "$machine_folder/nginx/nginx.conf" -g 'daemon off;'
+    if wait_until "the web server" eval "! is_port_free $port"; then
+      web_port=$port
+      return 0
+    fi
+  done
+  return 1
+}
+
+# start_windows: makes the Wine prefix if there is none yet.
+start_windows() {
+  if [ ! -e "$machine_folder/prefix-is-made" ]; then
+    echo "Making a Wine prefix"
+    rm -rf "$WINEPREFIX"
+    wine wineboot --init >"$machine_folder/wineboot.log" 2>&1 </dev/null
+    wineserver -w
+    touch "$machine_folder/prefix-is-made"
+  fi
+}
+
+# write_registry TEXT: writes what a .reg file of that text holds; "\n" ends its lines.
+write_registry() {
+  printf 'REGEDIT4\n\n%s\n' "$1" | sed 's/$/\r/' >"$machine_folder/settings.reg"
+  wine regedit /S "$machine_folder/settings.reg" >/dev/null 2>&1 </dev/null
+}
+
+# Windows get a desktop of their own, for which no window manager is needed.
+use_virtual_desktop() {
+  write_registry '[HKEY_CURRENT_USER\Software\Wine\Explorer]
+"Desktop"="Default"
+
+[HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
+"Default"="1280x1024"'
+  # The running desktop is the old one.
+  wineserver -k && wineserver -w || true
+}
+
+# Each window is a window of the user's own desktop.
+use_no_desktop() {
+  write_registry '[-HKEY_CURRENT_USER\Software\Wine\Explorer]'
+  wineserver -k && wineserver -w || true
+}
+
+use_own_web() {
+  write_registry '[HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Internet Settings]
+"ProxyEnable"=dword:00000001
+"ProxyServer"="127.0.0.1:'"$web_port"'"'
+}

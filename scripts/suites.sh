@@ -1,0 +1,82 @@
+# Running suites of tests and adding up what came of them. Sourced, not run.
+
+suite_lines=()
+passed=0
+failed=0
+
+# count NAME PASSED FAILED
+count() {
+  suite_lines+=("$(printf '%6d passed %4d failed  %s' "$2" "$3" "$1")")
+  passed=$((passed + $2))
+  failed=$((failed + $3))
+}
+
+log_of() {
+  mkdir -p out/logs
+  echo "out/logs/$(echo "$1" | tr -c 'a-zA-Z0-9\n' '-').log"
+}
+
+# check_suite NAME COMMAND...: one test, which passes if the command succeeds.
+check_suite() {
+  local name=$1 log
+  shift
+  log=$(log_of "$name")
+  echo "Running $name"
+  if "$@" >"$log" 2>&1; then
+    count "$name" 1 0
+  else
+    tail -n 40 "$log"
+    count "$name" 0 1
+  fi
+}
+
+# build_suite PRESET [TARGET...]: one test, which passes if it builds without a warning.
+build_suite() {
+  if build "$@"; then count "the $1 build" 1 0; else count "the $1 build" 0 1; fi
+}
+
+# gtest_suite NAME COMMAND...: a GoogleTest program. One that ends before it has reported, or fails
+# without a failed test, counts as a failure of its own.
+gtest_suite() {
+  local name=$1 log report status=0 all=0 bad=0
+  shift
+  log=$(log_of "$name")
+  report=${log%.log}.xml
+  rm -f "$report"
+  echo "Running $name"
+  "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
+  if [ -s "$report" ]; then
+    all=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$report")
+    bad=$(sed -n 's/^<testsuites .*failures="\([0-9]*\)".*/\1/p' "$report")
+  fi
+  [ "$status" = 0 ] || [ "$bad" -gt 0 ] || bad=1
+  # A suite that has lost its tests tests nothing.
+  [ "$all" -gt 0 ] || bad=1
+  if [ "$bad" -gt 0 ]; then
+    grep -v -E '^\[( RUN |       OK )' "$log" | tail -n 150
+    echo "All of its output is in $log"
+  fi
+  count "$name" $((all > bad ? all - bad : 0)) "$bad"
+}
+
+# fuzz_suite PROGRAM: a short run over its seeds and what it makes of them.
+fuzz_suite() {
+  local name
+  name=$(basename "$1")
+  check_suite "$name" "$1" -runs=20000 -max_total_time=20 "-artifact_prefix=out/logs/$name-" \
+    $(find "fuzz/seeds/${name#fuzz-}" -maxdepth 0 2>/dev/null)
+}
+
+# bench_suite PROGRAM: that it runs; its figures mean nothing on a busy machine.
+bench_suite() {
+  check_suite "$(basename "$1")" "$1" --benchmark_min_time=0.01
+}
+
+# Prints all counts, and last their sum. Fails if any test did.
+report_suites() {
+  echo
+  printf '%s\n' "${suite_lines[@]}"
+  echo
+  echo "$passed passed, $failed failed"
+  [ "$failed" = 0 ]
+}

@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Builds everything and runs every test there is. The last line tells how many passed and failed;
+# the exit status is 0 if none failed.
+set -euo pipefail
+cd "$(dirname "$0")"
+exec </dev/null
+. scripts/packages.sh
+. scripts/build.sh
+. scripts/machine.sh
+. scripts/suites.sh
+
+trap leave_machine EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+install_packages "${pack_packages[@]}" "${test_packages[@]}"
+
+build_suite host sk2tests
+build_suite windows
+build_suite fuzz
+build_suite bench
+check_suite "code layout" cmake --build --preset host --target check-format
+gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
+for target in out/fuzz/fuzz/fuzz-*; do
+  [ -x "$target" ] && fuzz_suite "$target"
+done
+for target in out/bench/bench/bench-*; do
+  [ -x "$target" ] && bench_suite "$target"
+done
+
+enter_machine out/e2e
+start_display
+start_sound
+start_web
+start_windows
+use_virtual_desktop
+use_own_web
+gtest_suite "contracts on the real machine" wine out/windows/tests/contract-tests.exe
+rm -rf out/e2e/pictures
+gtest_suite "the shipped program" wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack \
+  --versions=out/windows/versions --demo=demo --pictures=out/e2e/pictures
+
+report_suites

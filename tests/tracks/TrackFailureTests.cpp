@@ -1,0 +1,147 @@
+// Every call of the machine fails once while tracks are made: nothing is lost, nothing is left
+// behind, and the user is told and never without a window.
+#include "base/LineReader.h"
+#include "tests/app/PackStory.h"
+#include "tracks/TrackInWork.h"
+
+namespace {
+
+const std::string Game = "C:\\Games\\Skidrun2";
+const std::string Tracks = Game + "\\tracks";
+const std::string Race = Tracks + "\\Race.trk";
+const std::string EditorTitle = "SK2 Trackmaker by Orvane Interactive";
+const std::string PackTitle = "Skidrun2 Utility Pack V1.0";
+const std::string OnePart = "3\r\n1\r\n7000\r\n";
+
+// A started pack, with an old track and with the program folder in place, so that the language file
+// is written too.
+struct StartedPack {
+  StartedPack() {
+    machine.InstallGame(Game);
+    machine.files.PutFolder(machine.executable.folder);
+    machine.files.Put(Race, "an old track");
+    StartPack();
+  }
+
+  // Forgets what the user was going to do in a dialog that never came.
+  void ForgetTheRest() {
+    user.script().files.clear();
+    user.script().answers.clear();
+    user.script().modals.clear();
+  }
+
+  bool WasToldOfAFailure() const {
+    for (const Simulated::Box& box : user.Boxes()) {
+      if (box.icon == Platform::Icon::Critical) return true;
+    }
+    return false;
+  }
+
+  Simulated::Machine machine;
+  Simulated::User& user = machine.user;
+};
+
+// Lets the first call of an action fail, then the second, until the action runs through.
+template <class Action>
+void ForEachCallThatFails(Action&& action) {
+  int failures = 0;
+  for (;; ++failures) {
+    StartedPack pack;
+    const bool goesOn = action(pack, Simulated::After{failures});
+    SCOPED_TRACE("call " + std::to_string(failures) + ", " + pack.machine.FailedCall());
+    ASSERT_NE(Platform::ActiveForm(), nullptr);
+    EXPECT_TRUE(Platform::ActiveForm()->IsVisible());
+    EXPECT_EQ(pack.machine.files.Names(Tracks), Names("Race.trk"));
+    if (!goesOn) break;
+  }
+  EXPECT_GT(failures, 3);
+}
+
+TEST(TrackFailureSweep, ANewTrackOpensTheEditorOrLeavesTheMainWindow) {
+  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+    pack.user.ChoosesFile("Race");
+    pack.machine.FailAnyCall(after);
+    pack.user.ChoosesMenu({"Track", "New"});
+    const bool failed = pack.machine.FailureHappened();
+    if (TheTrack().TrackPath.empty()) {
+      EXPECT_TRUE(failed && pack.WasToldOfAFailure()) << pack.machine.FailedCall();
+      EXPECT_EQ(pack.user.SeesWindow(), PackTitle);
+      pack.ForgetTheRest();
+      pack.user.ChoosesFile("Race");
+      pack.user.ChoosesMenu({"Track", "New"});
+    }
+    EXPECT_EQ(TheTrack().TrackPath, Race);
+    EXPECT_EQ(pack.user.SeesWindow(), EditorTitle);
+    return failed;
+  });
+}
+
+TEST(TrackFailureSweep, APartIsAddedWhateverFails) {
+  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+    pack.user.ChoosesFile("Race");
+    pack.user.ChoosesMenu({"Track", "New"});
+    pack.machine.FailAnyCall(after);
+    pack.user.Presses("Alt+P");
+    pack.user.Types("7000");
+    pack.user.Presses("Tab");
+    pack.user.Presses("Down");
+    pack.user.Presses("Tab");
+    for (int i = 0; i < 3; ++i) pack.user.Presses("Down");
+    pack.user.Presses("Enter");
+    EXPECT_EQ(pack.user.SeesWindow(), EditorTitle) << pack.machine.FailedCall();
+    EXPECT_EQ(TheTrack().TrackText, OnePart) << pack.machine.FailedCall();
+    return pack.machine.FailureHappened();
+  });
+}
+
+TEST(TrackFailureSweep, ASaveWritesTheWholeTrackOrKeepsItAndTheOldFile) {
+  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+    pack.user.ChoosesFile("Race");
+    pack.user.ChoosesMenu({"Track", "New"});
+    TheTrack().TrackText = OnePart;
+    pack.user.AnswersYes();
+    pack.machine.FailAnyCall(after);
+    pack.user.Presses("Alt+S");
+    const bool failed = pack.machine.FailureHappened();
+    if (!TheTrack().TrackPath.empty()) {
+      EXPECT_TRUE(failed && pack.WasToldOfAFailure()) << pack.machine.FailedCall();
+      EXPECT_EQ(pack.user.SeesWindow(), EditorTitle);
+      EXPECT_EQ(TheTrack().TrackText, OnePart);
+      EXPECT_EQ(pack.machine.files.Text(Race), "an old track");
+      pack.user.AnswersYes();
+      pack.user.Presses("Alt+S");
+    }
+    EXPECT_EQ(pack.user.SeesWindow(), PackTitle);
+    EXPECT_EQ(pack.machine.files.Text(Race), OnePart + "-1\r\n0\r\n");
+    return failed;
+  });
+}
+
+TEST(TrackFailureSweep, ARandomTrackIsWholeOrNotThereAtAll) {
+  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+    const auto makesTrack = [&] {
+      pack.user.ChoosesFile("Race");
+      pack.user.AnswersNo();
+      pack.user.TypesInBox("9000");  // more than one block
+      pack.user.AnswersNo();
+      pack.user.ChoosesMenu({"Track", "Random Track"});
+    };
+    pack.machine.FailAnyCall(after);
+    makesTrack();
+    const bool failed = pack.machine.FailureHappened();
+    EXPECT_EQ(pack.user.SeesWindow(), PackTitle);
+    if (pack.WasToldOfAFailure()) {
+      EXPECT_TRUE(failed);
+      EXPECT_EQ(pack.machine.files.Text(Race), "an old track");
+      pack.ForgetTheRest();
+      makesTrack();
+    }
+    EXPECT_EQ(pack.user.LastBox().title, "Thank you!");
+    const std::vector<std::string> lines = LinesOf(pack.machine.files.Text(Race));
+    EXPECT_EQ(lines.size(), 9000 * 3 + 2u);
+    EXPECT_EQ(lines.back(), "1");
+    return failed;
+  });
+}
+
+}  // namespace
