@@ -1,0 +1,482 @@
+// What every machine promises of files: the words of platform/Files.h, and those of Windows where
+// they leave something open. Included once by each machine's tests.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include "base/RuntimeError.h"
+#include "platform/Files.h"
+#include "tests/platform/TestMachine.h"
+
+using Platform::AppendToFile;
+using Platform::FileExists;
+using Platform::FileReader;
+using Platform::FileWriter;
+using Platform::ReadWholeFile;
+using Platform::RemoveFile;
+using Platform::StampOf;
+using Platform::WriteWholeFile;
+using TestMachine::Sharing;
+
+class FilesContract : public ContractTest {
+ protected:
+  std::string In(const std::string& name) const { return folder + "\\" + name; }
+
+  // The number and the file with which an action fails.
+  template <class Action>
+  static testing::AssertionResult FailsWith(RuntimeError::Number number, const std::string& path,
+                                            const Action& action) {
+    try {
+      action();
+    } catch (const RuntimeError& error) {
+      if (error.number() != number) {
+        return testing::AssertionFailure() << "failed with " << error.number();
+      }
+      if (error.file() != path) return testing::AssertionFailure() << "told " << error.file();
+      return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "did not fail";
+  }
+
+  template <class Action>
+  static testing::AssertionResult FailsByName(const std::string& path, const Action& action) {
+    try {
+      action();
+    } catch (const RuntimeError& error) {
+      if (std::string(error.cause().key) == RuntimeErrorTexts.NameNotUsable.key) {
+        return testing::AssertionSuccess() << error.number();
+      }
+      return testing::AssertionFailure() << "cause " << error.what();
+    }
+    return testing::AssertionFailure() << "did not fail: " << path;
+  }
+
+  static std::string ReadToEnd(FileReader& reader) {
+    std::string all;
+    char block[5];
+    while (const size_t count = reader.Read(block, sizeof block)) all.append(block, count);
+    return all;
+  }
+
+  // Starts, writes and finishes a file in one go.
+  static void WriteInPieces(const std::string& path, const std::vector<std::string>& pieces) {
+    FileWriter writer(path);
+    for (const std::string& piece : pieces) writer.Write(piece);
+    writer.Finish();
+  }
+
+  const std::string folder = TestMachine::ScratchFolder();
+};
+
+// --- FileExists, StampOf ---
+
+TEST_F(FilesContract, AFileAndAFolderExist) {
+  TestMachine::PutFile(In("hill.trk"), "");
+  EXPECT_TRUE(FileExists(In("hill.trk")));
+  EXPECT_TRUE(FileExists(folder));
+  EXPECT_FALSE(FileExists(In("lake.trk")));
+  EXPECT_FALSE(FileExists(In("nowhere\\hill.trk")));
+  EXPECT_FALSE(FileExists(""));
+}
+
+TEST_F(FilesContract, AHeldFileExists) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::Hold(In("hill.trk"), Sharing::WithNobody);
+  EXPECT_TRUE(FileExists(In("hill.trk")));
+}
+
+TEST_F(FilesContract, WhatNoNameCanHoldDoesNotExist) {
+  EXPECT_FALSE(FileExists(In("hill?.trk")));
+  EXPECT_FALSE(FileExists(In("*")));
+  EXPECT_FALSE(FileExists(In(std::string(300, 'a'))));
+  EXPECT_FALSE(StampOf(In("*")));
+}
+
+TEST_F(FilesContract, LetterCaseIsIgnoredToFindAFile) {
+  TestMachine::PutFile(In("Hill.trk"), "1");
+  EXPECT_TRUE(FileExists(In("hILL.TRK")));
+  EXPECT_EQ(ReadWholeFile(In("HILL.TRK")), "1");
+  EXPECT_TRUE(RemoveFile(In("hill.trk")));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{});
+}
+
+TEST_F(FilesContract, LetterCaseIsKeptToMakeAFile) {
+  WriteWholeFile(In("Hill.Trk"), "1");
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"Hill.Trk"});
+}
+
+TEST_F(FilesContract, AStampTellsTheSize) {
+  TestMachine::PutFile(In("hill.trk"), "12345");
+  ASSERT_TRUE(StampOf(In("hill.trk")));
+  EXPECT_EQ(StampOf(In("HILL.trk"))->size, 5u);
+  EXPECT_EQ(StampOf(In("hill.trk")), StampOf(In("hill.trk")));
+}
+
+TEST_F(FilesContract, NothingHasNoStamp) {
+  EXPECT_FALSE(StampOf(In("hill.trk")));
+  EXPECT_FALSE(StampOf(In("nowhere\\hill.trk")));
+  EXPECT_FALSE(StampOf(folder));
+}
+
+TEST_F(FilesContract, AnotherSizeIsAnotherStamp) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  const auto before = StampOf(In("hill.trk"));
+  TestMachine::PutFile(In("hill.trk"), "12");
+  EXPECT_NE(StampOf(In("hill.trk")), before);
+}
+
+// --- ReadWholeFile ---
+
+TEST_F(FilesContract, ReadsAllBytesAsTheyAre) {
+  const std::string bytes("\0\r\n\x1A\xFF\n\r", 7);
+  TestMachine::PutFile(In("bytes.dat"), bytes);
+  EXPECT_EQ(ReadWholeFile(In("bytes.dat")), bytes);
+}
+
+TEST_F(FilesContract, ReadsAnEmptyFile) {
+  TestMachine::PutFile(In("empty.dat"), "");
+  EXPECT_EQ(ReadWholeFile(In("empty.dat")), "");
+}
+
+TEST_F(FilesContract, ReadsNothingWhereNothingIs) {
+  EXPECT_EQ(ReadWholeFile(In("hill.trk")), std::nullopt);
+  EXPECT_EQ(ReadWholeFile(In("nowhere\\hill.trk")), std::nullopt);
+}
+
+TEST_F(FilesContract, CannotReadAFolder) {
+  TestMachine::PutFolder(In("tracks"));
+  EXPECT_TRUE(
+      FailsWith(RuntimeError::PathFileAccess, In("tracks"), [&] { ReadWholeFile(In("tracks")); }));
+}
+
+TEST_F(FilesContract, ReadsAFileThatOthersRead) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::Hold(In("hill.trk"), Sharing::ForReading);
+  EXPECT_EQ(ReadWholeFile(In("hill.trk")), "1");
+}
+
+TEST_F(FilesContract, CannotReadAFileThatAnotherHasForItself) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::Hold(In("hill.trk"), Sharing::WithNobody);
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, In("hill.trk"),
+                        [&] { ReadWholeFile(In("hill.trk")); }));
+}
+
+TEST_F(FilesContract, ReadsReadOnlyAndHiddenFiles) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::SetAttributes(In("hill.trk"), TestMachine::ReadOnly | TestMachine::Hidden);
+  EXPECT_EQ(ReadWholeFile(In("hill.trk")), "1");
+}
+
+// --- Names that cannot be used ---
+
+TEST_F(FilesContract, APathOf259CharactersCanBeUsed) {
+  const std::string path = In(std::string(259 - folder.size() - 1, 'n'));
+  ASSERT_EQ(path.size(), 259u);
+  WriteWholeFile(path, "1");
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_EQ(ReadWholeFile(path), "1");
+  AppendToFile(path, "2");
+  WriteInPieces(path, {"3"});
+  EXPECT_EQ(ReadWholeFile(path), "3");
+  EXPECT_TRUE(RemoveFile(path));
+}
+
+TEST_F(FilesContract, ALongerPathFailsWithACauseOfItsOwn) {
+  const std::string path = In(std::string(260 - folder.size() - 1, 'n'));
+  EXPECT_TRUE(FailsByName(path, [&] { ReadWholeFile(path); }));
+  EXPECT_TRUE(FailsByName(path, [&] { WriteWholeFile(path, ""); }));
+  EXPECT_TRUE(FailsByName(path, [&] { AppendToFile(path, ""); }));
+  EXPECT_TRUE(FailsByName(path, [&] { RemoveFile(path); }));
+  EXPECT_TRUE(FailsByName(path, [&] { FileReader reader(path); }));
+  EXPECT_TRUE(FailsByName(path, [&] { FileWriter writer(path); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, path, [&] { WriteWholeFile(path, ""); }));
+}
+
+TEST_F(FilesContract, ACharacterThatNoNameCanHoldFailsWithACauseOfItsOwn) {
+  for (const char* name : {"a?b", "a*b", "a<b", "a>b", "a|b", "a\"b", "a\nb", "a:b"}) {
+    const std::string path = In(name);
+    EXPECT_TRUE(FailsByName(path, [&] { ReadWholeFile(path); }));
+    EXPECT_TRUE(FailsByName(path, [&] { WriteWholeFile(path, ""); }));
+    EXPECT_TRUE(FailsByName(path, [&] { RemoveFile(path); }));
+  }
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{});
+}
+
+TEST_F(FilesContract, ANulInAPathFailsWithACauseOfItsOwn) {
+  const std::string path = In("hill.trk") + '\0' + ".bak";
+  TestMachine::PutFile(In("hill.trk"), "1");
+  EXPECT_TRUE(FailsByName(path, [&] { RemoveFile(path); }));
+  EXPECT_TRUE(FailsByName(path, [&] { WriteWholeFile(path, "2"); }));
+  EXPECT_FALSE(FileExists(path));
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "1");
+}
+
+TEST_F(FilesContract, NamesMayHoldBlanksAmpersandsAndLettersOfTheCodePage) {
+  const std::string path = In("Tom & J\xFCrgen's hill.trk");
+  WriteWholeFile(path, "1");
+  EXPECT_EQ(ReadWholeFile(In("TOM & J\xDCRGEN'S HILL.TRK")), "1");
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"Tom & J\xFCrgen's hill.trk"});
+}
+
+// --- WriteWholeFile ---
+
+TEST_F(FilesContract, WritesAllBytesAsTheyAre) {
+  const std::string bytes("\0\r\n\x1A\xFF\n\r", 7);
+  WriteWholeFile(In("bytes.dat"), bytes);
+  EXPECT_EQ(TestMachine::BytesOf(In("bytes.dat")), bytes);
+}
+
+TEST_F(FilesContract, ReplacesTheWholeContents) {
+  TestMachine::PutFile(In("hill.trk"), "a long text");
+  WriteWholeFile(In("hill.trk"), "short");
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "short");
+  WriteWholeFile(In("hill.trk"), "");
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "");
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+}
+
+TEST_F(FilesContract, WritingMovesTheStamp) {
+  WriteWholeFile(In("hill.trk"), "1");
+  const auto before = StampOf(In("hill.trk"));
+  ASSERT_TRUE(before);
+  WriteWholeFile(In("hill.trk"), "22");
+  EXPECT_NE(StampOf(In("hill.trk")), before);
+}
+
+TEST_F(FilesContract, KeepsTheAttributesOfAReplacedFile) {
+  TestMachine::PutFile(In("hill.trk"), "old");
+  TestMachine::SetAttributes(In("hill.trk"), TestMachine::Hidden | TestMachine::System);
+  WriteWholeFile(In("hill.trk"), "new");
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "new");
+  EXPECT_EQ(TestMachine::AttributesOf(In("hill.trk")), TestMachine::Hidden | TestMachine::System);
+}
+
+TEST_F(FilesContract, ANewFileHasNoAttributes) {
+  WriteWholeFile(In("hill.trk"), "new");
+  EXPECT_EQ(TestMachine::AttributesOf(In("hill.trk")), 0);
+}
+
+TEST_F(FilesContract, CannotWriteIntoAFolderThatIsNotThere) {
+  const std::string path = In("nowhere\\hill.trk");
+  EXPECT_TRUE(FailsWith(RuntimeError::PathNotFound, path, [&] { WriteWholeFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathNotFound, path, [&] { AppendToFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathNotFound, path, [&] { WriteInPieces(path, {"1"}); }));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{});
+}
+
+TEST_F(FilesContract, CannotWriteOverAFolder) {
+  TestMachine::PutFolder(In("tracks"));
+  const std::string path = In("tracks");
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, path, [&] { WriteWholeFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, path, [&] { AppendToFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, path, [&] { WriteInPieces(path, {"1"}); }));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"tracks"});
+}
+
+TEST_F(FilesContract, CannotWriteAReadOnlyFile) {
+  const std::string path = In("hill.trk");
+  TestMachine::PutFile(path, "old");
+  TestMachine::SetAttributes(path, TestMachine::ReadOnly);
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, path, [&] { WriteWholeFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, path, [&] { AppendToFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, path, [&] { WriteInPieces(path, {"1"}); }));
+  EXPECT_EQ(TestMachine::BytesOf(path), "old");
+  EXPECT_EQ(TestMachine::AttributesOf(path), TestMachine::ReadOnly);
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+}
+
+class HeldFilesContract : public FilesContract,
+                          public testing::WithParamInterface<TestMachine::Sharing> {};
+
+TEST_P(HeldFilesContract, CannotWriteOrDeleteAFileThatAnotherProgramHolds) {
+  const std::string path = In("hill.trk");
+  TestMachine::PutFile(path, "old");
+  TestMachine::Hold(path, GetParam());
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { WriteWholeFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { AppendToFile(path, "1"); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { WriteInPieces(path, {"1"}); }));
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { RemoveFile(path); }));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+  TestMachine::LetGo(path);
+  EXPECT_EQ(TestMachine::BytesOf(path), "old");
+  WriteWholeFile(path, "new");
+  EXPECT_TRUE(RemoveFile(path));
+}
+
+INSTANTIATE_TEST_SUITE_P(Held, HeldFilesContract,
+                         testing::Values(Sharing::ForReading, Sharing::WithNobody));
+
+TEST_F(FilesContract, RewritesAFileInPlaceWhereTheFolderRefusesNewOnes) {
+  TestMachine::PutFile(In("hill.trk"), "a long old text");
+  if (!TestMachine::RefuseNewFiles(folder)) GTEST_SKIP() << "not to be had on this machine";
+  WriteWholeFile(In("hill.trk"), "new");
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "new");
+  AppendToFile(In("hill.trk"), "er");
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "newer");
+  WriteInPieces(In("hill.trk"), {"new", "est"});
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "newest");
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, In("lake.trk"),
+                        [&] { WriteWholeFile(In("lake.trk"), "1"); }));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+}
+
+// --- AppendToFile ---
+
+TEST_F(FilesContract, AppendsToTheEnd) {
+  TestMachine::PutFile(In("pack.lng"), "one\r\n");
+  AppendToFile(In("PACK.lng"), "two\r\n");
+  EXPECT_EQ(TestMachine::BytesOf(In("pack.lng")), "one\r\ntwo\r\n");
+}
+
+TEST_F(FilesContract, AppendingMakesAFile) {
+  AppendToFile(In("pack.lng"), "one");
+  EXPECT_EQ(TestMachine::BytesOf(In("pack.lng")), "one");
+}
+
+TEST_F(FilesContract, AppendingKeepsTheAttributes) {
+  TestMachine::PutFile(In("pack.lng"), "one");
+  TestMachine::SetAttributes(In("pack.lng"), TestMachine::Hidden);
+  AppendToFile(In("pack.lng"), "two");
+  EXPECT_EQ(TestMachine::BytesOf(In("pack.lng")), "onetwo");
+  EXPECT_EQ(TestMachine::AttributesOf(In("pack.lng")), TestMachine::Hidden);
+}
+
+// --- RemoveFile ---
+
+TEST_F(FilesContract, RemovesAFileOnce) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::PutFile(In("lake.trk"), "1");
+  EXPECT_TRUE(RemoveFile(In("hill.trk")));
+  EXPECT_FALSE(RemoveFile(In("hill.trk")));
+  EXPECT_FALSE(RemoveFile(In("nowhere\\hill.trk")));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"lake.trk"});
+}
+
+TEST_F(FilesContract, CannotRemoveAReadOnlyFileOrAFolder) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::SetAttributes(In("hill.trk"), TestMachine::ReadOnly);
+  TestMachine::PutFolder(In("tracks"));
+  EXPECT_TRUE(
+      FailsWith(RuntimeError::PathFileAccess, In("hill.trk"), [&] { RemoveFile(In("hill.trk")); }));
+  EXPECT_TRUE(
+      FailsWith(RuntimeError::PathFileAccess, In("tracks"), [&] { RemoveFile(In("tracks")); }));
+  EXPECT_EQ(TestMachine::NamesIn(folder), (std::vector<std::string>{"hill.trk", "tracks"}));
+}
+
+TEST_F(FilesContract, RemovesAHiddenFile) {
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::SetAttributes(In("hill.trk"), TestMachine::Hidden);
+  EXPECT_TRUE(RemoveFile(In("hill.trk")));
+}
+
+// --- FileReader ---
+
+TEST_F(FilesContract, ReadsPieceByPiece) {
+  TestMachine::PutFile(In("hill.trk"), std::string("twelve\r\n\0byte", 13));
+  FileReader reader(In("HILL.trk"));
+  EXPECT_EQ(ReadToEnd(reader), std::string("twelve\r\n\0byte", 13));
+  char byte;
+  EXPECT_EQ(reader.Read(&byte, 1), 0u) << "the end stays the end";
+}
+
+TEST_F(FilesContract, ReadsAnEmptyFilePieceByPiece) {
+  TestMachine::PutFile(In("hill.trk"), "");
+  FileReader reader(In("hill.trk"));
+  EXPECT_EQ(ReadToEnd(reader), "");
+}
+
+TEST_F(FilesContract, ReadsOnAfterTheReaderWasMoved) {
+  TestMachine::PutFile(In("hill.trk"), "123456");
+  FileReader first(In("hill.trk"));
+  char bytes[2];
+  ASSERT_EQ(first.Read(bytes, 2), 2u);
+  FileReader second(std::move(first));
+  EXPECT_EQ(ReadToEnd(second), "3456");
+}
+
+TEST_F(FilesContract, TellsWhatKeepsAFileFromBeingRead) {
+  TestMachine::PutFolder(In("tracks"));
+  TestMachine::PutFile(In("hill.trk"), "1");
+  TestMachine::Hold(In("hill.trk"), Sharing::WithNobody);
+  const auto open = [this](const char* name) {
+    return [this, name] { FileReader reader(In(name)); };
+  };
+  EXPECT_TRUE(FailsWith(RuntimeError::FileNotFound, In("lake.trk"), open("lake.trk")));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathNotFound, In("no\\a.trk"), open("no\\a.trk")));
+  EXPECT_TRUE(FailsWith(RuntimeError::PathFileAccess, In("tracks"), open("tracks")));
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, In("hill.trk"), open("hill.trk")));
+}
+
+TEST_F(FilesContract, AFileThatIsBeingReadCannotBeWrittenOrDeleted) {
+  const std::string path = In("hill.trk");
+  TestMachine::PutFile(path, "old");
+  {
+    FileReader reader(path);
+    EXPECT_TRUE(
+        FailsWith(RuntimeError::PermissionDenied, path, [&] { WriteWholeFile(path, "1"); }));
+    EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { AppendToFile(path, "1"); }));
+    EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { RemoveFile(path); }));
+    EXPECT_EQ(ReadWholeFile(path), "old") << "but it can be read twice";
+    EXPECT_EQ(ReadToEnd(reader), "old");
+  }
+  EXPECT_TRUE(RemoveFile(path));
+}
+
+// --- FileWriter ---
+
+TEST_F(FilesContract, WritesPieceByPiece) {
+  WriteInPieces(In("hill.trk"), {"one\r\n", "", "two\n", std::string("\0", 1)});
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), std::string("one\r\ntwo\n\0", 10));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+}
+
+TEST_F(FilesContract, WritesAnEmptyFileByPieces) {
+  WriteInPieces(In("hill.trk"), {});
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "");
+}
+
+TEST_F(FilesContract, AFileTakesItsNameOnlyWhenItIsWhole) {
+  TestMachine::PutFile(In("hill.trk"), "old");
+  FileWriter writer(In("hill.trk"));
+  writer.Write("new");
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "old");
+  EXPECT_EQ(ReadWholeFile(In("hill.trk")), "old");
+  writer.Finish();
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "new");
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+}
+
+TEST_F(FilesContract, AFileThatIsNotFinishedLeavesNothing) {
+  TestMachine::PutFile(In("hill.trk"), "old");
+  {
+    FileWriter replacing(In("hill.trk"));
+    replacing.Write("new");
+    FileWriter making(In("lake.trk"));
+    making.Write("new");
+  }
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "old");
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+}
+
+TEST_F(FilesContract, TheFinishedFileHasTheAttributesOfTheReplacedOne) {
+  TestMachine::PutFile(In("hill.trk"), "old");
+  TestMachine::SetAttributes(In("hill.trk"), TestMachine::Hidden);
+  WriteInPieces(In("hill.trk"), {"new"});
+  EXPECT_EQ(TestMachine::AttributesOf(In("hill.trk")), TestMachine::Hidden);
+  WriteInPieces(In("lake.trk"), {"new"});
+  EXPECT_EQ(TestMachine::AttributesOf(In("lake.trk")), 0);
+}
+
+TEST_F(FilesContract, AFileThatComesToBeHeldWhileItIsWrittenStaysAsItWas) {
+  const std::string path = In("hill.trk");
+  TestMachine::PutFile(path, "old");
+  {
+    FileWriter writer(path);
+    writer.Write("new");
+    TestMachine::Hold(path, Sharing::ForReading);
+    EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { writer.Finish(); }));
+  }
+  EXPECT_EQ(TestMachine::BytesOf(path), "old");
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.trk"});
+}

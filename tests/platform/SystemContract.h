@@ -1,0 +1,74 @@
+// What every machine promises of the small services: the program's own file, the clock, the named
+// mutex, the sound device. Included once by each machine's tests.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "base/RuntimeError.h"
+#include "platform/Clock.h"
+#include "platform/Executable.h"
+#include "platform/Forms.h"
+#include "platform/NamedMutex.h"
+#include "platform/Sound.h"
+#include "tests/platform/TestMachine.h"
+
+class SystemContract : public ContractTest {};
+
+TEST_F(SystemContract, TheProgramKnowsItsFolderAndItsName) {
+  EXPECT_EQ(Platform::ProgramFolder(), TestMachine::FolderOfExecutable());
+  EXPECT_NE(Platform::ProgramFolder().back(), '\\');
+  EXPECT_EQ(Platform::ExecutableName(), TestMachine::NameOfExecutable());
+  EXPECT_FALSE(Platform::ExecutableName().ends_with(".exe"));
+}
+
+TEST_F(SystemContract, TheProgramKnowsItsVersion) {
+  const Platform::ProgramVersion known = Platform::ReadProgramVersion();
+  const Platform::ProgramVersion true_ = TestMachine::VersionOfExecutable();
+  EXPECT_EQ(known.major, true_.major);
+  EXPECT_EQ(known.minor, true_.minor);
+  EXPECT_EQ(known.revision, true_.revision);
+  EXPECT_EQ(known.productName, true_.productName);
+  EXPECT_EQ(known.fileDescription, true_.fileDescription);
+}
+
+TEST_F(SystemContract, TheClockTellsTheSecondsOfTheDay) {
+  const double first = Platform::SecondsSinceMidnight();
+  const double second = Platform::SecondsSinceMidnight();
+  for (const double seconds : {first, second}) {
+    EXPECT_GE(seconds, 0);
+    EXPECT_LT(seconds, 24 * 60 * 60);
+  }
+  const bool isPastMidnight = second < 60 && first > 23 * 60 * 60;
+  EXPECT_TRUE(second >= first || isPastMidnight);
+}
+
+TEST_F(SystemContract, AMutexIsHeldAndMayBeHeldTwice) {
+  const std::string name = "SK2PackContractTest";
+  EXPECT_FALSE(TestMachine::HasMutex(name));
+  Platform::HoldNamedMutex(name);
+  EXPECT_TRUE(TestMachine::HasMutex(name));
+  EXPECT_NO_THROW(Platform::HoldNamedMutex(name));
+}
+
+TEST_F(SystemContract, ANameThatTheSystemRefusesFails) {
+  try {
+    Platform::HoldNamedMutex("No\\Such\\Place");
+    ADD_FAILURE() << "did not fail";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.number(), RuntimeError::DeviceError);
+  }
+}
+
+TEST_F(SystemContract, TheSoundDeviceIsOpenedOnce) {
+  EXPECT_FALSE(Platform::IsSoundDeviceOpen());
+  Platform::Form owner(FixedText("Owner"));
+  Platform::StartProgram(owner);
+  if (TestMachine::HasSoundDevice()) {
+    Platform::OpenSoundDevice(owner);
+    EXPECT_TRUE(Platform::IsSoundDeviceOpen());
+    EXPECT_NO_THROW(Platform::OpenSoundDevice(owner));
+  } else {
+    EXPECT_THROW(Platform::OpenSoundDevice(owner), RuntimeError);
+    EXPECT_FALSE(Platform::IsSoundDeviceOpen());
+  }
+}

@@ -1,0 +1,149 @@
+// What the contract tests need from the machine on which they run, beside the platform's own
+// services. It reaches round those services: what it prepares and tells comes from the machine
+// itself, as another program would see it.
+//
+// Implemented by SimulatedMachineTests.cpp and by RealMachine.cpp. Every function may be called in
+// a test only.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Executable.h"
+#include "platform/Registry.h"
+
+namespace TestMachine {
+
+// Before and after each test. SetUp begins a new run of the program. TearDown ends it (its PerRun
+// objects go), and puts back all that the test changed: files, holds, separators, registry values.
+void SetUp();
+void TearDown();
+
+// --- Files ---
+
+// An empty folder of the running test, without a backslash at its end. Its path is shorter than 100
+// characters.
+std::string ScratchFolder();
+
+void PutFile(const std::string& path, const std::string& bytes);
+void PutFolder(const std::string& path);
+// The bytes of a file; nothing if there is none.
+std::optional<std::string> BytesOf(const std::string& path);
+// The names in a folder, hidden ones too, in the machine's own spelling, sorted by their bytes.
+std::vector<std::string> NamesIn(const std::string& folder);
+
+enum Attribute { ReadOnly = 1, Hidden = 2, System = 4 };
+// Sets exactly these attributes of a file or folder (the sum of Attribute), or tells them.
+void SetAttributes(const std::string& path, int attributes);
+int AttributesOf(const std::string& path);
+
+// Another program has a file open, until the test ends or lets go of it.
+enum class Sharing {
+  ForReading,  // others may read it, but not write, replace or delete it
+  WithNobody,  // others cannot even read it
+};
+void Hold(const std::string& path, Sharing sharing);
+void LetGo(const std::string& path);
+
+// Takes from the user the right to make and delete files in a folder; they may still write those
+// that are there. False if this machine cannot do so: the test is then skipped.
+bool RefuseNewFiles(const std::string& folder);
+
+// --- Numbers ---
+
+// Sets the user's separators for the program's process: those of numbers and of amounts of money
+// alike, as the system's own number parser minds both.
+void SetSeparators(const std::string& decimal, const std::string& thousands);
+
+// --- Registry ---
+
+// A subkey that tests may fill, in both roots and views.
+std::string ScratchSubkey();
+// Stores a value as it is: type and bytes. Type Other is stored as binary data.
+void PutRegistryValue(Platform::RegistryRoot root, Platform::RegistryView view,
+                      const std::string& subkey, const std::string& name,
+                      const Platform::RegistryValue& value);
+
+// --- Executable, mutexes, sound ---
+
+// What the test program's own file says of itself, asked round the platform's service.
+std::string FolderOfExecutable();
+std::string NameOfExecutable();
+Platform::ProgramVersion VersionOfExecutable();
+
+// True if a mutex of that name exists in the system.
+bool HasMutex(const std::string& name);
+
+// True if there is a device that can play sounds.
+bool HasSoundDevice();
+
+// --- Windows, by keyboard and ear ---
+
+// Each of these acts on the native window that has the keyboard, and returns when the program has
+// handled what comes of it. Keys go the way of a real key: through the message loop, so that the
+// window's KeyDown, its dialog keys and the focused control get them in their turn.
+
+// Presses a key by its name: "Enter", "Tab", "Shift+Tab", "Escape", "Space", "Up", "Home",
+// "Delete", "Ctrl+A", "Ctrl+Shift+N", "Alt+S", "Alt+F4".
+void Press(const std::string& key);
+// Types the characters of a text.
+void Type(const std::string& text);
+// The close box of the window.
+void CloseWindow();
+// Clicks, or clicks twice, on the row with that text in the window's only list.
+void ClickRow(const std::string& row);
+void DoubleClickRow(const std::string& row);
+// Clicks the button with that caption, without "&".
+void ClickButton(const std::string& caption);
+
+// What a screen reader says of the focused native control, in the words of Simulated::User::Hears.
+// Asked of the native windows alone: the name is the control's own text or that of the static text
+// just before it, "read only" its style, rows and selection what the native list holds.
+std::string Hears();
+// The selected part of the focused native text box.
+std::string SelectedText();
+// The titles of the program's native windows that are on the screen, boxes included, sorted.
+std::vector<std::string> VisibleWindows();
+// The title of the native window that has the keyboard.
+std::string ActiveWindow();
+// The captions of the active window's native menu bar, and behind each in parentheses what its menu
+// holds, submenus likewise: "&File(&Close (Alt+F4)) &Help(&Visit(&One,&Two),greyed:About)".
+// A greyed item has "greyed:" before it, a checked one "checked:".
+std::string Menus();
+// Chooses a menu item by the captions on the way to it, "&" included.
+void ChooseMenu(const std::vector<std::string>& captions);
+
+// --- Boxes and dialogs ---
+
+// What the user does when the next modal window comes: a message box, a window shown by ShowModal,
+// or a file dialog. The action runs while it is on the screen and has the keyboard, and must make
+// it go. Several are used in their order.
+void WhenModalWindowOpens(std::function<void()> action);
+
+// A message box, while it is on the screen. Asked of the native box.
+struct MessageBoxSeen {
+  std::string title;
+  std::string text;
+};
+MessageBoxSeen MessageBoxOnScreen();
+
+// In an open file dialog: types a path in place of the name that stands there and presses Enter; or
+// leaves it by Escape. The dialog's own questions, such as whether to replace a file, are answered
+// with Yes.
+void ChooseInFileDialog(const std::string& path);
+void LeaveFileDialog();
+
+}  // namespace TestMachine
+
+// The ground of all contract tests: each runs on a machine of its own.
+class ContractTest : public testing::Test {
+ protected:
+  ContractTest() { TestMachine::SetUp(); }
+  ~ContractTest() override { TestMachine::TearDown(); }
+};
