@@ -1,0 +1,26 @@
+#include "platform/win32/CodePage.h"
+
+#include "platform/win32/System.h"
+
+namespace Platform {
+
+std::wstring Widen(std::string_view text) {
+  if (text.empty()) return {};
+  const int size = static_cast<int>(text.size());
+  // No code page makes more wide characters than it has bytes.
+  std::wstring wide(text.size(), L'\0');
+  const int count = MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
+  wide.resize(static_cast<size_t>(count));
+  return wide;
+}
+
+std::string Narrow(std::wstring_view text) {
+  if (text.empty()) return {};
+  const int size = static_cast<int>(text.size());
+  const int count = WideCharToMultiByte(CP_ACP, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
+  std::string narrow(static_cast<size_t>(count), '\0');
+  WideCharToMultiByte(CP_ACP, 0, text.data(), size, narrow.data(), count, nullptr, nullptr);
+  return narrow;
+}
+
+}  // namespace Platform

@@ -1,0 +1,79 @@
+#include "platform/Executable.h"
+
+#include <vector>
+
+#include "base/File.h"
+#include "platform/win32/CodePage.h"
+#include "platform/win32/System.h"
+
+namespace Platform {
+
+namespace {
+
+std::wstring WidePath() {
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) {
+      path.resize(length);
+      return path;
+    }
+    path.resize(path.size() * 2);
+  }
+}
+
+// One text of a version resource, in the first language that the resource lists.
+std::string VersionText(const std::vector<char>& resource, const wchar_t* name) {
+  struct Language {
+    WORD language;
+    WORD codePage;
+  };
+  Language* language = nullptr;
+  UINT size = 0;
+  if (!VerQueryValueW(resource.data(), L"\\VarFileInfo\\Translation",
+                      reinterpret_cast<void**>(&language), &size) ||
+      size < sizeof(Language)) {
+    return {};
+  }
+  wchar_t key[80];
+  wsprintfW(key, L"\\StringFileInfo\\%04x%04x\\%s", language->language, language->codePage, name);
+  wchar_t* text = nullptr;
+  if (!VerQueryValueW(resource.data(), key, reinterpret_cast<void**>(&text), &size) || size == 0) {
+    return {};
+  }
+  return Narrow(text);
+}
+
+}  // namespace
+
+std::string ProgramFolder() {
+  return File::FolderOf(Narrow(WidePath()));
+}
+
+std::string ExecutableName() {
+  const std::string name = File::NameOf(Narrow(WidePath()));
+  return name.substr(0, name.rfind('.'));
+}
+
+ProgramVersion ReadProgramVersion() {
+  const std::wstring path = WidePath();
+  DWORD ignored = 0;
+  const DWORD size = GetFileVersionInfoSizeW(path.c_str(), &ignored);
+  std::vector<char> resource(size);
+  if (size == 0 || !GetFileVersionInfoW(path.c_str(), 0, size, resource.data())) return {};
+
+  ProgramVersion version;
+  VS_FIXEDFILEINFO* numbers = nullptr;
+  UINT length = 0;
+  if (VerQueryValueW(resource.data(), L"\\", reinterpret_cast<void**>(&numbers), &length) &&
+      length >= sizeof(*numbers)) {
+    version.major = HIWORD(numbers->dwFileVersionMS);
+    version.minor = LOWORD(numbers->dwFileVersionMS);
+    version.revision = HIWORD(numbers->dwFileVersionLS);
+  }
+  version.productName = VersionText(resource, L"ProductName");
+  version.fileDescription = VersionText(resource, L"FileDescription");
+  return version;
+}
+
+}  // namespace Platform

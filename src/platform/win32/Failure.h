@@ -1,0 +1,24 @@
+// From the system's error codes to the program's failures: the one place that knows both.
+#pragma once
+
+#include <string>
+
+#include "platform/win32/System.h"
+
+namespace Platform {
+
+// Fails with the RuntimeError that a system error on a file stands for.
+//   path    the file or folder that was asked for. Where the system says no more than "denied", its
+//           attributes tell a write-protected file or a folder from one that is in use.
+//   access  what was asked for: only writing is refused because of the read-only attribute.
+enum class Access { Reading, Writing };
+[[noreturn]] void FailWith(DWORD error, const std::string& path, Access access);
+
+// True if another program holds the file, so that it may work a moment later.
+bool IsInUse(DWORD error);
+
+// Fails with PathFileAccess, cause NameNotUsable, if the path is too long or holds a character that
+// no name can have.
+void CheckName(const std::string& path);
+
+}  // namespace Platform

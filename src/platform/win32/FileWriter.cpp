@@ -1,0 +1,162 @@
+#include <cstdio>
+#include <optional>
+#include <vector>
+
+#include "base/File.h"
+#include "base/RuntimeError.h"
+#include "platform/Files.h"
+#include "platform/win32/FileHandles.h"
+
+namespace Platform {
+
+namespace {
+
+// A file of our own with a name that no one else has. Until it is kept, it vanishes with its
+// handle, even if the program is ended meanwhile.
+class TemporaryFile {
+ public:
+  // Makes one in a folder. If that fails, it is not open and file().error() tells why.
+  explicit TemporaryFile(const std::string& folder) {
+    static unsigned counter = 0;
+    do {
+      char name[32];
+      std::snprintf(name, sizeof name, "\\~%04lx%04x.tmp", GetCurrentProcessId() & 0xFFFF,
+                    ++counter & 0xFFFF);
+      file_ = OpenFile(folder + name, GENERIC_READ | GENERIC_WRITE | DELETE, 0, CREATE_NEW);
+    } while (file_.error() == ERROR_FILE_EXISTS || file_.error() == ERROR_ALREADY_EXISTS);
+    if (file_.IsOpen()) Vanishes(true);
+  }
+  TemporaryFile(TemporaryFile&&) = default;
+  TemporaryFile& operator=(TemporaryFile&&) = default;
+
+  OpenFile& file() { return file_; }
+
+  // Flushes and closes the file, which stays under its name from now on.
+  void Keep() {
+    file_.Flush();
+    if (!Vanishes(false)) FailWith(GetLastError(), file_.path(), Access::Writing);
+    file_.Close();
+  }
+
+ private:
+  bool Vanishes(bool doesVanish) {
+    FILE_DISPOSITION_INFO disposition{};
+    disposition.DeleteFile = doesVanish;
+    return SetFileInformationByHandle(file_.get(), FileDispositionInfo, &disposition,
+                                      sizeof disposition) != 0;
+  }
+
+  OpenFile file_;
+};
+
+std::string SystemTemporaryFolder() {
+  char path[MAX_PATH + 1];
+  const DWORD length = GetTempPathA(sizeof path, path);
+  if (length == 0 || length >= sizeof path) return {};
+  return File::FolderOf(std::string(path, length));
+}
+
+void Copy(OpenFile& from, OpenFile& to) {
+  std::vector<char> block(size_t{1} << 20);
+  from.Seek(0);
+  to.Seek(0);
+  while (const size_t count = from.Read(block.data(), block.size())) {
+    to.Write({block.data(), count});
+  }
+}
+
+// Gives an open file the contents of another. If that fails half way, the old contents, which were
+// put aside before, are put back.
+void RewriteInPlace(OpenFile& target, OpenFile& contents) {
+  TemporaryFile old(SystemTemporaryFolder());
+  if (!old.file().IsOpen()) FailWith(old.file().error(), target.path(), Access::Writing);
+  Copy(target, old.file());
+  const uint64_t oldLength = target.Size();
+  const uint64_t length = contents.Size();
+  try {
+    if (length > oldLength) target.SetLength(length);
+    Copy(contents, target);
+    target.SetLength(length);
+    target.Flush();
+  } catch (const RuntimeError&) {
+    Copy(old.file(), target);
+    target.SetLength(oldLength);
+    target.Flush();
+    throw;
+  }
+}
+
+}  // namespace
+
+struct FileWriter::Open {
+  std::string path;
+  TemporaryFile temporary;
+  // The file itself, where its folder takes no new files.
+  std::optional<OpenFile> inPlace;
+
+  explicit Open(const std::string& target) : path(target), temporary(File::FolderOf(target)) {
+    if (temporary.file().IsOpen()) return;
+    const DWORD refusal = temporary.file().error();
+    const DWORD error = TryWhileInUse([&] {
+      inPlace = OpenFile(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
+      return inPlace->error();
+    });
+    if (error == ERROR_FILE_NOT_FOUND) FailWith(refusal, path, Access::Writing);
+    if (error != ERROR_SUCCESS) FailWith(error, path, Access::Writing);
+    temporary = TemporaryFile(SystemTemporaryFolder());
+    if (!temporary.file().IsOpen()) FailWith(refusal, path, Access::Writing);
+  }
+
+  void PutInPlace() {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    temporary.Keep();
+    const std::string& name = temporary.file().path();
+    if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesA(name.c_str(), attributes);
+    const DWORD error = TryWhileInUse([&]() -> DWORD {
+      return MoveFileExA(name.c_str(), path.c_str(),
+                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)
+                 ? ERROR_SUCCESS
+                 : GetLastError();
+    });
+    if (error == ERROR_SUCCESS) return;
+    SetFileAttributesA(name.c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileA(name.c_str());
+    FailWith(error, path, Access::Writing);
+  }
+};
+
+FileWriter::FileWriter(const std::string& path) {
+  CheckName(path);
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES &&
+      (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))) {
+    throw RuntimeError(RuntimeError::PathFileAccess, path);
+  }
+  open_ = std::make_unique<Open>(path);
+}
+
+FileWriter::~FileWriter() = default;
+
+void FileWriter::Write(std::string_view bytes) {
+  try {
+    open_->temporary.file().Write(bytes);
+  } catch (const RuntimeError& error) {
+    // The user knows the file by the name that it is to have.
+    throw RuntimeError(error.number(), error.cause(), open_->path);
+  }
+}
+
+void FileWriter::Finish() {
+  try {
+    if (open_->inPlace) {
+      RewriteInPlace(*open_->inPlace, open_->temporary.file());
+    } else {
+      open_->PutInPlace();
+    }
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), error.cause(), open_->path);
+  }
+  open_.reset();
+}
+
+}  // namespace Platform

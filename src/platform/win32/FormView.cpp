@@ -1,0 +1,67 @@
+#include "platform/FormView.h"
+
+#include "platform/Forms.h"
+#include "platform/win32/FormWindow.h"
+
+namespace Platform {
+
+FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {}
+FormView::~FormView() = default;
+
+void FormView::Show() {
+  native_->Show();
+}
+void FormView::Hide() {
+  native_->Hide();
+}
+
+void FormView::RunModal(FormView* owner) {
+  native_->RunModal(owner ? owner->native_->window() : nullptr);
+}
+
+void FormView::EndModal() {
+  native_->EndModal();
+}
+
+void FormView::TitleChanged() {
+  native_->ShowTitle();
+}
+void FormView::MenuChanged() {
+  native_->ShowMenu();
+}
+void FormView::FocusChanged() {
+  native_->MoveFocus();
+}
+
+void FormView::CaptionChanged(Control& control) {
+  native_->Of(control).ShowCaption();
+  native_->LayOutAgain();
+}
+
+void FormView::StateChanged(Control& control) {
+  native_->Of(control).ShowState();
+  native_->LayOutAgain();
+}
+
+void FormView::TextChanged(TextBox& box) {
+  native_->ShowText(box);
+}
+void FormView::AllSelected(TextBox& box) {
+  native_->Of(box).SelectAll();
+}
+
+void FormView::RowAdded(ListBox& list) {
+  native_->Of(list).AddRow(list.row(list.count() - 1), native_->font());
+}
+
+void FormView::RowRemoved(ListBox& list, int index) {
+  native_->Of(list).RemoveRow(index);
+}
+void FormView::RowsCleared(ListBox& list) {
+  native_->Of(list).ClearRows();
+}
+void FormView::SelectionChanged(ListBox& list) {
+  native_->Of(list).ShowSelection();
+}
+
+}  // namespace Platform

@@ -1,0 +1,88 @@
+// The native window of a form.
+//
+// Windows with controls are real dialogs; a window without any is of a class of our own that keeps
+// the focus itself. Whatever the user does may end with the window gone: after a call into the form
+// nothing of this object is touched again, and it is looked up anew by its handle.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/FormView.h"
+#include "platform/win32/ControlWindow.h"
+#include "platform/win32/Display.h"
+#include "platform/win32/MenuBar.h"
+#include "platform/win32/System.h"
+
+namespace Platform {
+
+struct FormView::Native {
+ public:
+  explicit Native(Form& form);
+  ~Native();
+  Native(const Native&) = delete;
+  Native& operator=(const Native&) = delete;
+
+  // The one behind a window; null if it is none of ours, or is gone.
+  static Native* Find(HWND window);
+
+  HWND window() const { return window_; }
+  bool IsDialog() const { return isDialog_; }
+  ControlWindow& Of(const Control& control);
+  const Display::Font& font() const { return *font_; }
+
+  void Show();
+  void Hide();
+  void RunModal(HWND owner);
+  void EndModal();
+  void ShowTitle();
+  void ShowMenu();
+  void MoveFocus();
+  void ShowText(TextBox& box);
+  // Lays the controls out again after one of them has changed. The window grows if it has to.
+  void LayOutAgain();
+
+  // A key went down in the window. True if the form used it.
+  bool KeyDown(const MSG& message);
+
+ private:
+  static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam,
+                                     LPARAM lParam) noexcept;
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam,
+                                     LPARAM lParam) noexcept;
+
+  void MakeDialog();
+  void MakeWindow();
+  void MakeControls();
+  // What both kinds of windows answer. The result if the message is settled.
+  std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void Command(WPARAM wParam, LPARAM lParam);
+  void RestoreFocus();
+  void ChangeFont(UINT dpi);
+
+  std::vector<Layout::Item> LayoutItems() const;
+  Layout::Font LayoutFont() const;
+  void OpenAtItsPlace();
+  void PlaceControls();
+
+  Form& form_;
+  HWND window_ = nullptr;
+  bool isDialog_;
+  std::unique_ptr<Display::Font> font_;
+  std::vector<ControlWindow> controls_;
+  std::unique_ptr<MenuBar> menuBar_;
+  Layout::Size leastSize_;
+  bool isLaidOut_ = false;
+  bool isFocusMoved_ = true;  // the form has moved the focus, and the window has not followed yet
+  bool isWritingText_ = false;
+  bool isModalOver_ = false;
+};
+
+// The native window of a loaded form; null if it is not loaded.
+HWND WindowOf(const Form& form);
+// The window in use, which owns boxes and dialogs; null before there is one.
+HWND ActiveWindow();
+
+}  // namespace Platform
