@@ -59,17 +59,20 @@ gtest_suite() {
   count "$name" $((all > bad ? all - bad : 0)) "$bad"
 }
 
-# fuzz_suite PROGRAM: a short run over its seeds and what it makes of them.
+# fuzz_suite PROGRAM: a short run over its seeds and what it makes of them. What it finds new goes
+# into the first folder that it is given, and so not among the seeds.
 fuzz_suite() {
-  local name
+  local name found
   name=$(basename "$1")
+  found=out/fuzz/found/${name#fuzz-}
+  mkdir -p "$found"
   check_suite "$name" "$1" -runs=20000 -max_total_time=20 "-artifact_prefix=out/logs/$name-" \
-    $(find "fuzz/seeds/${name#fuzz-}" -maxdepth 0 2>/dev/null)
+    "$found" $(find "fuzz/seeds/${name#fuzz-}" -maxdepth 0 2>/dev/null)
 }
 
 # bench_suite PROGRAM: that it runs; its figures mean nothing on a busy machine.
 bench_suite() {
-  check_suite "$(basename "$1")" "$1" --benchmark_min_time=0.01
+  check_suite "$(basename "$1")" "$1" --brief
 }
 
 # Prints all counts, and last their sum. Fails if any test did.
