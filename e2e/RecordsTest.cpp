@@ -54,9 +54,53 @@ TEST_F(Records, RecordIsDeletedOnceConfirmed) {
   EXPECT_EQ(viewer.control("Select a track:").rows(),
             (std::vector<std::string>{"hill", "advharbour"}));
   EXPECT_EQ(ReadFile(file()), "hill=72345\r\nadvharbour=3723004\r\n");
+  pack.WaitForRow("advharbour");
+  WaitForTime(viewer, "1 hour, 2 minutes, 3.004 seconds");
 
   pack.Press("Escape");
   pack.WaitForMain();
+}
+
+TEST_F(Records, LastRecordOfAllIsDeleted) {
+  WriteFile(file(), "hill=72345\r\n");
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Game", "Record Viewer"});
+  const Window viewer = pack.WaitForWindow("Record Viewer");
+  const Window list = viewer.control("Select a track:");
+  pack.Press("Alt+D");
+  pack.AnswerBox("Y");
+  pack.WaitForWindow("Record Viewer");
+  EXPECT_THAT(list.rows(), testing::IsEmpty());
+  EXPECT_EQ(viewer.control("Time:").text(), "");
+  EXPECT_EQ(viewer.focus(), list);
+  EXPECT_EQ(ReadFile(file()), "");
+
+  pack.PressInVain("Alt+D");
+  pack.Press("Alt+F4");
+  pack.WaitForMain();
+}
+
+TEST_F(Records, WriteProtectedFileIsToldAndKept) {
+  const std::string before = ReadFile(file());
+  SetFileAttributesA(file().c_str(), FILE_ATTRIBUTE_READONLY);
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Game", "Record Viewer"});
+  const Window viewer = pack.WaitForWindow("Record Viewer");
+  pack.Press("Down");
+  for (const char* button : {"Alt+D", "Alt+R"}) {
+    pack.Press(button);
+    EXPECT_EQ(pack.AnswerBox("Y").icon, BoxIcon::Question);
+    EXPECT_EQ(pack.AnswerBox(),
+              Critical("Error", "The file is write-protected or is a folder.\r\nFile: " + file()));
+    pack.WaitForWindow("Record Viewer");
+    EXPECT_EQ(viewer.control("Select a track:").rows(),
+              (std::vector<std::string>{"hill", "coast", "advharbour"}));
+    WaitForTime(viewer, "2 minutes, 5.5 seconds");
+    EXPECT_EQ(ReadFile(file()), before);
+  }
+  pack.Press("Escape");
+  pack.WaitForMain();
+  SetFileAttributesA(file().c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 TEST_F(Records, ResetClearsThemAll) {
