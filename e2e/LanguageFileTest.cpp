@@ -52,7 +52,7 @@ TEST_F(LanguageFile, TranslationIsShown) {
       "; Deutsch\r\n"
       "XFile=&Datei ;das erste Menu\r\n"
       "XVehicle=&Fahrzeug\r\n"
-      "VCheck=Fahrzeug &pr\xfc"
+      "VCheck=Fahrzeug p&r\xfc"
       "fen\r\n"
       "OpenVehicleDlgTitle=Fahrzeug \xf6"
       "ffnen\r\n"

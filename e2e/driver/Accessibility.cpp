@@ -164,10 +164,15 @@ void CheckFocus(const Window& window, const std::vector<Control>& controls, Repo
 void CheckLists(const std::vector<Control>& controls, Report& report) {
   for (const Control& control : controls) {
     if (!control.window.IsClass("ListBox")) continue;
-    const LONG_PTR wanted = LBS_NOTIFY | WS_VSCROLL;
     const bool isDrawn = (control.style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0;
-    if ((control.style & wanted) != wanted || isDrawn) {
+    if (isDrawn || !(control.style & LBS_NOTIFY)) {
       report.Add("L1", "the list \"" + control.name + "\" is not the system's plain list");
+    }
+    // A list takes its scroll bar away while all rows are in sight.
+    const LRESULT height = control.window.Ask(LB_GETCOUNT).value_or(0) *
+                           control.window.Ask(LB_GETITEMHEIGHT).value_or(0);
+    if (height > control.window.clientSize().bottom && !(control.style & WS_VSCROLL)) {
+      report.Add("L1", "the list \"" + control.name + "\" cannot be scrolled");
     }
   }
 }

@@ -1,11 +1,39 @@
 #include "e2e/driver/Window.h"
 
+#include <algorithm>
 #include <cctype>
 #include <stdexcept>
 
 #include "e2e/driver/Wait.h"
 
 namespace E2e {
+namespace {
+
+std::string NarrowRow(const Window& list, LRESULT row, LRESULT length) {
+  std::string text(static_cast<size_t>(length) + 1, '\0');
+  const auto copied =
+      list.Ask(LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<size_t>(std::max<LRESULT>(copied.value_or(0), 0)));
+  return text;
+}
+
+std::string WideRow(HWND list, LRESULT row, LRESULT length) {
+  std::wstring text(static_cast<size_t>(length) + 1, L'\0');
+  DWORD_PTR copied = 0;
+  if (!SendMessageTimeoutW(list, LB_GETTEXT, static_cast<WPARAM>(row),
+                           reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG, 10'000,
+                           &copied) ||
+      static_cast<LRESULT>(copied) <= 0) {
+    return "";
+  }
+  std::string narrow(static_cast<size_t>(copied) * 2, '\0');
+  narrow.resize(static_cast<size_t>(
+      WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(copied), narrow.data(),
+                          static_cast<int>(narrow.size()), nullptr, nullptr)));
+  return narrow;
+}
+
+}  // namespace
 
 DWORD Window::processId() const {
   DWORD id = 0;
@@ -90,14 +118,12 @@ Window Window::control(const std::string& name) const {
 }
 
 std::vector<std::string> Window::rows() const {
+  // Between programs, Wine hands over the rows of a list as the list keeps them.
+  const bool isWide = IsWindowUnicode(handle_) != FALSE;
   std::vector<std::string> rows;
   for (LRESULT row = 0; row < Ask(LB_GETCOUNT).value_or(0); row++) {
-    const auto length = Ask(LB_GETTEXTLEN, static_cast<WPARAM>(row));
-    std::string text(static_cast<size_t>(length.value_or(0)) + 1, '\0');
-    const auto copied =
-        Ask(LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
-    text.resize(static_cast<size_t>(copied.value_or(0)));
-    rows.push_back(text);
+    const auto length = Ask(LB_GETTEXTLEN, static_cast<WPARAM>(row)).value_or(0);
+    rows.push_back(isWide ? WideRow(handle_, row, length) : NarrowRow(*this, row, length));
   }
   return rows;
 }
