@@ -22,9 +22,11 @@ class LanguageFile {
 
  private:
   std::string path_ = Program::PathBesideProgram(".lng");
-  std::optional<Platform::FileStamp> stamp_;
+  bool isKnown_ = false;                      // the rest is what the file holds
+  std::optional<Platform::FileStamp> stamp_;  // nothing while there is no file
   std::vector<std::string> lines_;
   bool endsInOpenLine_ = false;  // the last line lacks its line end
+  bool refusesEntries_ = false;  // an entry could not be appended
 };
 
 // What counts of a line where ";" starts a comment. Lines without one stay as they are, blanks
@@ -45,10 +47,11 @@ std::string WithSemicolons(std::string text) {
 bool LanguageFile::Refresh() {
   // The stamp is taken before the file is read: a change in between is seen at the next look.
   const auto stamp = Platform::StampOf(path_);
-  if (stamp && stamp == stamp_) return true;
-  stamp_.reset();
+  if (isKnown_ && stamp == stamp_) return true;
+  isKnown_ = false;
   lines_.clear();
   endsInOpenLine_ = false;
+  refusesEntries_ = false;
   std::optional<std::string> bytes;
   try {
     bytes = Platform::ReadWholeFile(path_);
@@ -71,6 +74,7 @@ bool LanguageFile::Refresh() {
     if (endsInOpenLine_) lines_.push_back(std::move(line));
   }
   stamp_ = stamp;
+  isKnown_ = true;
   return true;
 }
 
@@ -85,10 +89,14 @@ std::optional<std::string> LanguageFile::Find(const std::string& key, int flag) 
 }
 
 void LanguageFile::Append(const std::string& entry) {
+  // Each try at a file that another program holds may take a second, and a window has many texts.
+  if (refusesEntries_) return;
   try {
     Platform::AppendToFile(path_, (endsInOpenLine_ ? "\r\n" : "") + entry + "\r\n");
+    isKnown_ = false;
   } catch (const RuntimeError&) {
     // A program folder that may not be written to is no reason to stop: the default is shown.
+    refusesEntries_ = true;
   }
 }
 

@@ -160,6 +160,18 @@ TEST_F(StringTableStory, AFileThatCannotBeMadeStopsNothing) {
   EXPECT_FALSE(machine.files.Exists(LanguageFile));
 }
 
+TEST_F(StringTableStory, AFileThatRefusesAnEntryIsLeftAloneUntilItChanges) {
+  FileHolds("XFile=Datei\r\n");
+  machine.files.Hold(LanguageFile);
+  Look("FClose", "&Close");
+  machine.files.Release(LanguageFile);
+  Look("FClose", "&Close");
+  EXPECT_EQ(File(), "XFile=Datei\r\n");
+  FileHolds("XFile=Daten\r\n");
+  Look("FClose", "&Close");
+  EXPECT_EQ(File(), "XFile=Daten\r\nFClose=&Close\r\n");
+}
+
 // The last line of a key counts, so an appended default would take a translation's place.
 TEST_F(StringTableStory, NothingIsAppendedToAFileThatCannotBeRead) {
   FileHolds("XFile=Datei\r\n");
