@@ -61,10 +61,12 @@ void FailWith(DWORD error, const std::string& path, Access access) {
 }
 
 bool IsInUse(DWORD error) {
-  // Replacing a file that someone has open is refused as "access denied".
   return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
-         error == ERROR_USER_MAPPED_FILE || error == ERROR_DELETE_PENDING ||
-         error == ERROR_ACCESS_DENIED;
+         error == ERROR_USER_MAPPED_FILE || error == ERROR_DELETE_PENDING;
+}
+
+bool IsInUseForReplacing(DWORD error) {
+  return IsInUse(error) || error == ERROR_ACCESS_DENIED;
 }
 
 void CheckName(const std::string& path) {

@@ -14,8 +14,13 @@ namespace Platform {
 enum class Access { Reading, Writing };
 [[noreturn]] void FailWith(DWORD error, const std::string& path, Access access);
 
-// True if another program holds the file, so that it may work a moment later.
+// True if another program holds the file that was to be opened, so that it may work a moment later.
+// Not for want of a right, which no waiting mends.
 bool IsInUse(DWORD error);
+
+// The same where the file was to be replaced: that too is refused as "access denied" while someone
+// has it open.
+bool IsInUseForReplacing(DWORD error);
 
 // Fails with PathFileAccess, cause NameNotUsable, if the path is too long or holds a character that
 // no name can have.

@@ -46,13 +46,13 @@ class OpenFile {
 // Runs an attempt, which returns ERROR_SUCCESS or a system error, again and again for up to a
 // second while another program, such as a virus scanner, holds the file. Returns the last error.
 template <class Attempt>
-DWORD TryWhileInUse(const Attempt& attempt) {
+DWORD TryWhileInUse(const Attempt& attempt, bool (*isInUse)(DWORD) = IsInUse) {
   constexpr ULONGLONG PatienceMs = 1000;
   constexpr DWORD PauseMs = 50;
   const ULONGLONG start = GetTickCount64();
   for (;;) {
     const DWORD error = attempt();
-    if (!IsInUse(error) || GetTickCount64() - start >= PatienceMs) return error;
+    if (!isInUse(error) || GetTickCount64() - start >= PatienceMs) return error;
     Sleep(PauseMs);
   }
 }

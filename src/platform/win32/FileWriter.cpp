@@ -112,12 +112,11 @@ struct FileWriter::Open {
     temporary.Keep();
     const std::string& name = temporary.file().path();
     if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesA(name.c_str(), attributes);
-    const DWORD error = TryWhileInUse([&]() -> DWORD {
-      return MoveFileExA(name.c_str(), path.c_str(),
-                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)
-                 ? ERROR_SUCCESS
-                 : GetLastError();
-    });
+    const auto replace = [&]() -> DWORD {
+      const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+      return MoveFileExA(name.c_str(), path.c_str(), how) ? ERROR_SUCCESS : GetLastError();
+    };
+    const DWORD error = TryWhileInUse(replace, IsInUseForReplacing);
     if (error == ERROR_SUCCESS) return;
     SetFileAttributesA(name.c_str(), FILE_ATTRIBUTE_NORMAL);
     DeleteFileA(name.c_str());
