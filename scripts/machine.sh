@@ -138,6 +138,8 @@ start_windows() {
     rm -rf "$WINEPREFIX"
     wine wineboot --init >"$machine_folder/wineboot.log" 2>&1 </dev/null
     wineserver -w
+    # Debian's Wine does not find the fonts of Windows' own controls by itself.
+    cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     touch "$machine_folder/prefix-is-made"
   fi
 }

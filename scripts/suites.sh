@@ -59,15 +59,20 @@ gtest_suite() {
   count "$name" $((all > bad ? all - bad : 0)) "$bad"
 }
 
-# fuzz_suite PROGRAM: a short run over its seeds and what it makes of them. What it finds new goes
-# into the first folder that it is given, and so not among the seeds.
+# programs_in FOLDER PATTERN: their paths.
+programs_in() {
+  find "$1" -maxdepth 1 -type f -executable -name "$2" 2>/dev/null | sort
+}
+
+# fuzz_suite PROGRAM: a short run over its seeds and what it makes of them.
 fuzz_suite() {
   local name found
   name=$(basename "$1")
-  found=out/fuzz/found/${name#fuzz-}
-  mkdir -p "$found"
+  # What it finds goes into the first folder, and is not kept.
+  found=$(mktemp -d)
   check_suite "$name" "$1" -runs=20000 -max_total_time=20 "-artifact_prefix=out/logs/$name-" \
-    "$found" $(find "fuzz/seeds/${name#fuzz-}" -maxdepth 0 2>/dev/null)
+    "$found" "fuzz/seeds/${name#fuzz-}"
+  rm -rf "$found"
 }
 
 # bench_suite PROGRAM: that it runs; its figures mean nothing on a busy machine.
