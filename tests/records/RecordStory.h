@@ -3,21 +3,14 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
-#include "app/Start.h"
-#include "platform/Forms.h"
-#include "tests/Story.h"
+#include "tests/app/PackStory.h"
 
-class RecordStory : public Story {
+class RecordStory : public PackStory {
  protected:
-  RecordStory() {
-    machine.InstallGame("C:\\Games\\Skidrun2");
-    StartPack();
-  }
+  static inline const std::string RecordPath = Game + "\\highscore.cfg";
 
-  const std::string RecordPath = "C:\\Games\\Skidrun2\\highscore.cfg";
+  RecordStory() { StartPack(); }
 
   void PutRecords(std::string_view bytes) { machine.files.Put(RecordPath, bytes); }
   std::string Records() const { return machine.files.Text(RecordPath); }

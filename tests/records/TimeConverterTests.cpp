@@ -104,7 +104,7 @@ TEST_F(TimeConverterStory, SpeaksTheUsersLanguage) {
   EXPECT_EQ(Words(125500), "2 Minuten, 5.5 Sekunden");
 }
 
-// How each time divides is TimePartsTest's business; here, what becomes of each part as text.
+// How each time divides is TimePartsTests' business; here, what becomes of each part as text.
 TEST_F(TimeConverterStory, ShowsEveryMillisecondOfAMinuteWithoutDust) {
   for (int32_t time = 61 * 60000; time < 62 * 60000; ++time) {
     ASSERT_EQ(Colons(time), ExpectedColons(Divide(time)));

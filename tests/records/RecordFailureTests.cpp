@@ -8,7 +8,7 @@ namespace {
 using Platform::Icon;
 using testing::HasSubstr;
 
-class RecordFaultsStory : public RecordStory {
+class RecordFailures : public RecordStory {
  protected:
   const std::string Before = "hill=1000\r\nlake=2000\r\n";
 
@@ -38,25 +38,25 @@ class RecordFaultsStory : public RecordStory {
   }
 };
 
-TEST_F(RecordFaultsStory, AWriteProtectedFileKeepsItsRecords) {
+TEST_F(RecordFailures, AWriteProtectedFileKeepsItsRecords) {
   machine.files.SetAttributes(RecordPath, Simulated::ReadOnly);
   DeleteIt();
   ExpectToldAndUnchanged();
 }
 
-TEST_F(RecordFaultsStory, AWriteProtectedFileIsNotCleared) {
+TEST_F(RecordFailures, AWriteProtectedFileIsNotCleared) {
   machine.files.SetAttributes(RecordPath, Simulated::ReadOnly);
   ClearAll();
   ExpectToldAndUnchanged();
 }
 
-TEST_F(RecordFaultsStory, AFullDiskLosesNothing) {
+TEST_F(RecordFailures, AFullDiskLosesNothing) {
   machine.files.FailWrites({0}, RuntimeError::DiskFull);
   DeleteIt();
   ExpectToldAndUnchanged();
 }
 
-TEST_F(RecordFaultsStory, AFileThatTheGameHoldsCanBeChangedOnceItIsFree) {
+TEST_F(RecordFailures, AFileThatTheGameHoldsCanBeChangedOnceItIsFree) {
   machine.files.Hold(RecordPath);
   DeleteIt();
   ExpectToldAndUnchanged();
@@ -66,7 +66,7 @@ TEST_F(RecordFaultsStory, AFileThatTheGameHoldsCanBeChangedOnceItIsFree) {
   EXPECT_EQ(user.Hears(), "Select a track:, list, lake, 1 of 1");
 }
 
-TEST_F(RecordFaultsStory, AGameThatWasUninstalledMeanwhileIsTold) {
+TEST_F(RecordFailures, AGameThatWasUninstalledMeanwhileIsTold) {
   machine.registry = {};
   DeleteIt();
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, HasSubstr("Skidrun2 was not found")));
@@ -74,14 +74,13 @@ TEST_F(RecordFaultsStory, AGameThatWasUninstalledMeanwhileIsTold) {
   EXPECT_EQ(HearsTracks(), "Select a track:, list, hill, 1 of 2");
 }
 
-TEST_F(RecordFaultsStory, OtherFilesOfTheGameStayAsTheyAre) {
-  const std::string folder = "C:\\Games\\Skidrun2";
-  machine.files.Put(folder + "\\Skidrun.cfg", "Language=english\r\n");
-  const auto names = machine.files.Names(folder);
+TEST_F(RecordFailures, OtherFilesOfTheGameStayAsTheyAre) {
+  machine.files.Put(Game + "\\Skidrun.cfg", "Language=english\r\n");
+  const auto names = machine.files.Names(Game);
   DeleteIt();
   ClearAll();
-  EXPECT_EQ(machine.files.Names(folder), names);
-  EXPECT_EQ(machine.files.Text(folder + "\\Skidrun.cfg"), "Language=english\r\n");
+  EXPECT_EQ(machine.files.Names(Game), names);
+  EXPECT_EQ(machine.files.Text(Game + "\\Skidrun.cfg"), "Language=english\r\n");
 }
 
 // The tracks that the open viewer lists.
@@ -102,7 +101,7 @@ std::vector<std::string> TracksIn(const std::string& bytes) {
 // Lets each call fail in turn while the user opens the viewer, deletes a record and clears the
 // rest. Whatever fails, the viewer that is open lists what is on disk, and a window is there to be
 // used.
-TEST(RecordSweep, AnySingleFailureLeavesFileAndWindowInAgreement) {
+TEST(RecordFailureSweep, AnySingleFailureLeavesFileAndWindowInAgreement) {
   const std::string path = "C:\\Games\\Skidrun2\\highscore.cfg";
   const std::string all = "hill=1000\r\nlake=2000\r\nmoor=3000\r\n";
   for (int calls = 0;; ++calls) {

@@ -1,28 +1,29 @@
 // Random record files under random deletions, beside a plain model of what the viewer promises.
 #include <algorithm>
-#include <random>
+#include <string>
+#include <vector>
 
+#include "tests/RandomText.h"
 #include "tests/records/RecordStory.h"
 
 namespace {
 
-class RecordProperties : public RecordStory {
+class RecordViewerProperties : public RecordStory {
  protected:
-  int Roll(int sides) { return std::uniform_int_distribution<int>(0, sides - 1)(random); }
-
   // A line of a record file: mostly sound, sometimes blank or odd.
   std::string RandomLine() {
-    static const std::vector<std::string> pieces = {
-        "",     " ",    "=",  "a",   "track", "&",   ";",  "\t",
-        "\xe4", "1000", "-1", "1e9", "x",     "&HF", "\n", "99999999999"};
-    if (Roll(3) > 0) return "t" + std::to_string(Roll(50)) + "=" + std::to_string(Roll(5000000));
+    if (!random.OneIn(3)) {
+      return "t" + std::to_string(random.Below(50)) + "=" + std::to_string(random.Below(5000000));
+    }
     std::string line;
-    for (int i = Roll(5); i > 0; --i)
-      line += pieces[static_cast<size_t>(Roll(static_cast<int>(pieces.size())))];
+    for (size_t i = random.Below(5); i > 0; --i) {
+      line += random.OneOf({" ", "=", "a", "track", "&", ";", "\t", "\xe4", "1000", "-1", "1e9",
+                            "x", "&HF", "\n", "99999999999"});
+    }
     return line;
   }
 
-  std::mt19937 random{20261121};
+  RandomText random{20261121};
 };
 
 // What the viewer keeps of the lines of a file: without blanks at the ends, and without blank ones.
@@ -42,13 +43,10 @@ std::string Joined(const std::vector<std::string>& lines) {
   return joined;
 }
 
-TEST_F(RecordProperties, RandomDeletionsKeepFileAndRowsAsPositionsSay) {
+TEST_F(RecordViewerProperties, RandomDeletionsKeepFileAndRowsAsPositionsSay) {
   for (int round = 0; round < 300; ++round) {
     std::vector<std::string> lines;
-    for (int i = Roll(12); i > 0; --i) lines.push_back(RandomLine());
-    // A line that begins with LF would lend it to the line end before it; the reader's tests are
-    // about that.
-    std::erase_if(lines, [](const std::string& line) { return line.starts_with('\n'); });
+    for (size_t i = random.Below(12); i > 0; --i) lines.push_back(RandomLine());
     const std::string file = Joined(lines);
     PutRecords(file);
     std::vector<std::string> records = KeptOf(lines);
@@ -69,7 +67,7 @@ TEST_F(RecordProperties, RandomDeletionsKeepFileAndRowsAsPositionsSay) {
     }
     std::string expectedFile = file;
     size_t selected = 0;
-    for (int step = Roll(15); step > 0; --step) {
+    for (size_t step = random.Below(15); step > 0; --step) {
       if (rows.empty()) {
         ASSERT_EQ(HearsTracks(), "Select a track:, list, empty");
         user.Presses("Alt+D");  // asks nothing
@@ -79,7 +77,7 @@ TEST_F(RecordProperties, RandomDeletionsKeepFileAndRowsAsPositionsSay) {
       ASSERT_EQ(HearsTracks(), "Select a track:, list, " + rows[selected] + ", " +
                                    std::to_string(selected + 1) + " of " +
                                    std::to_string(rows.size()));
-      switch (Roll(4)) {
+      switch (random.Below(4)) {
         case 0:
           user.Presses("Down");
           selected = std::min(selected + 1, rows.size() - 1);
