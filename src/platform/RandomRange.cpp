@@ -1,7 +1,6 @@
 #include "platform/RandomRange.h"
 
 #include <bit>
-#include <cmath>
 
 #include "base/PerRun.h"
 #include "platform/Clock.h"
@@ -35,7 +34,7 @@ int32_t RandomRange(int32_t low, int32_t high) {
   generator.Seed(SecondsSinceMidnight());
   // The product is rounded, but never up to the range itself: high is not reached.
   const double range = static_cast<double>(high) - low;
-  return static_cast<int32_t>(low + std::floor(range * generator.Draw()));
+  return static_cast<int32_t>(low + static_cast<int64_t>(range * generator.Draw()));
 }
 
 }  // namespace Platform

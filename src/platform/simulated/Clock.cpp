@@ -10,7 +10,8 @@ namespace Simulated {
 double Clock::Look() {
   constexpr double SecondsPerDay = 24 * 60 * 60;
   const double now = seconds_;
-  seconds_ = std::fmod(seconds_ + tick_, SecondsPerDay);
+  seconds_ += tick_;
+  if (seconds_ >= SecondsPerDay) seconds_ = std::fmod(seconds_, SecondsPerDay);
   return now;
 }
 
