@@ -79,5 +79,67 @@ TEST_F(TrackEditor, LengthThatCannotBeIsRefused) {
   EXPECT_FALSE(Exists(gameFolder() + "\\tracks\\Race.TRK"));
 }
 
+TEST_F(TrackEditor, ShortcutsWorkFromTheListAndMoveTheFocusToNewTrack) {
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Track", "New"});
+  pack.ChooseFile("Race");
+  const Window editor = pack.WaitForWindow(EditorTitle);
+  EXPECT_EQ(editor.focus(), editor.control("New Part"));
+
+  pack.TabTo("Track Viewer");
+  pack.Press("Ctrl+Shift+N");
+  pack.WaitForWindow(PartTitle);
+  pack.Press("Alt+F4");
+  pack.WaitForWindow(EditorTitle);
+  EXPECT_EQ(editor.focus(), editor.control("New Track"));
+
+  pack.TabTo("Track Viewer");
+  pack.Press("Ctrl+N");
+  pack.ChooseFile("Other");
+  pack.WaitForWindow(EditorTitle);
+  EXPECT_EQ(editor.focus(), editor.control("New Track"));
+
+  pack.TabTo("Track Viewer");
+  pack.Press("Alt+C");
+  pack.AnswerBox("Y");
+  EXPECT_EQ(pack.AnswerBox().title, "Track saved.");
+  pack.WaitForMain();
+  EXPECT_EQ(ReadFile(gameFolder() + "\\tracks\\Other.trk"), "-1\r\n0\r\n");
+}
+
+TEST_F(TrackEditor, TrackThatCannotBeWrittenIsSavedElsewhere) {
+  Pack& pack = StartPack();
+  const std::string race = gameFolder() + "\\tracks\\Race.trk";
+  WriteFile(race, "an old track");
+  SetFileAttributesA(race.c_str(), FILE_ATTRIBUTE_READONLY);
+  pack.ChooseMenu({"Track", "New"});
+  pack.ChooseFile("Race");
+  pack.WaitForWindow(EditorTitle);
+  pack.Press("Alt+P");
+  pack.WaitForWindow(PartTitle);
+  pack.Type("5000");
+  pack.Press("Enter");
+  const Window editor = pack.WaitForWindow(EditorTitle);
+
+  pack.Press("Alt+S");
+  pack.AnswerBox("Y");
+  const BoxText told = pack.AnswerBox();
+  EXPECT_EQ(told.title, "Error");
+  EXPECT_THAT(told.text, testing::HasSubstr("Race.trk"));
+  pack.WaitForWindow(EditorTitle);
+  EXPECT_EQ(editor.focus(), editor.control("Save track"));
+  EXPECT_EQ(ReadFile(race), "an old track");
+  SetFileAttributesA(race.c_str(), FILE_ATTRIBUTE_NORMAL);
+
+  pack.Press("Alt+T");
+  pack.ChooseFile("Other");
+  pack.WaitForWindow(EditorTitle);
+  pack.Press("Alt+S");
+  pack.AnswerBox("N");
+  EXPECT_EQ(pack.AnswerBox().title, "Track saved.");
+  pack.WaitForMain();
+  EXPECT_EQ(ReadFile(gameFolder() + "\\tracks\\Other.trk"), "0\r\n0\r\n5000\r\n-1\r\n1\r\n");
+}
+
 }  // namespace
 }  // namespace E2e
