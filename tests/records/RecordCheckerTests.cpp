@@ -1,6 +1,8 @@
 // What the user is told about a record file: line by line, and when there is nothing to read.
 #include "base/LineReader.h"
 #include "records/RecordChecker.h"
+#include "tests/HostFile.h"
+#include "tests/PeakMemory.h"
 #include "tests/records/RecordStory.h"
 
 namespace {
@@ -102,6 +104,19 @@ TEST_F(RecordCheckerStory, AFolderInThePlaceOfTheFileCannotBeRead) {
 
 TEST_F(RecordCheckerStory, ALineThatIsLongerThanAnyRecordCannotBeRead) {
   EXPECT_EQ(Check(std::string(LineReader::LongestLine + 1, 'x')), UnreadableRecordFile);
+}
+
+TEST_F(RecordCheckerStory, AFileOfAnySizeIsCheckedInBoundedMemory) {
+  constexpr size_t Megabyte = 1 << 20;
+  HostFile file;
+  size_t lines = file.Repeat("hill=72345\r\n", Megabyte);
+  lines += file.Repeat(std::string(Megabyte / 2, 'x') + "=1\r\n", 63 * Megabyte);
+  lines += file.Repeat("Lap=fast\r\n", 1);
+  machine.files.MountHostFile(RecordPath, file.path());
+  int64_t status = 0;
+  const auto growth = PeakMemory::Of([&] { status = CheckRecordFile(RecordPath, message); });
+  EXPECT_EQ(status, static_cast<int64_t>(lines));
+  EXPECT_LT(growth.value_or(0), 16 * Megabyte);
 }
 
 TEST_F(RecordCheckerStory, AnySingleFailureIsAResult) {
