@@ -1,17 +1,23 @@
 # The shipped program, staged as it is installed, and the same program under other versions for the
 # tests of its title.
 #
-# sk2_pack(NAME VERSION DESCRIPTION): an executable NAME.exe of the pack with that version.
-function(sk2_pack name version description)
+# sk2_version_resource(NAME VERSION DESCRIPTION): generated/NAME.rc with the pack's icon and manifest.
+function(sk2_version_resource name version description)
   string(REPLACE "." "," SK2_RC_VERSION "${version},0")
   set(SK2_RC_VERSION_TEXT "${version}")
   set(SK2_RC_DESCRIPTION "${description}")
   set(SK2_RC_FILE "${name}.exe")
-  configure_file(${CMAKE_SOURCE_DIR}/resources/sk2pack.rc.in ${CMAKE_BINARY_DIR}/generated/${name}.rc @ONLY)
-  add_executable(${name} WIN32 src/app/Main.cpp ${CMAKE_BINARY_DIR}/generated/${name}.rc)
-  set_source_files_properties(${CMAKE_BINARY_DIR}/generated/${name}.rc PROPERTIES
+  set(resource ${CMAKE_BINARY_DIR}/generated/${name}.rc)
+  configure_file(${CMAKE_SOURCE_DIR}/resources/sk2pack.rc.in ${resource} @ONLY)
+  set_source_files_properties(${resource} PROPERTIES
     INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR}/resources
     OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/sk2pack.manifest;${CMAKE_SOURCE_DIR}/resources/sk2pack.ico")
+endfunction()
+
+# sk2_pack(NAME VERSION DESCRIPTION): an executable NAME.exe of the pack with that version.
+function(sk2_pack name version description)
+  sk2_version_resource(${name} ${version} ${description})
+  add_executable(${name} WIN32 src/app/Main.cpp ${CMAKE_BINARY_DIR}/generated/${name}.rc)
   target_link_libraries(${name} PRIVATE core machine)
 endfunction()
 

@@ -186,6 +186,8 @@ TEST_F(FileDialogContract, AFileToOpenNeedNotExist) {
 }
 
 TEST_F(FileDialogContract, ANameWithoutExtensionGetsTheDefaultOne) {
+  // The same as in the filter: where they differ, the system takes that of the filter.
+  save.filter = "SK2 Vehicle files (*.vhc)|*.vhc";
   save.defaultExtension = "vhc";
   EXPECT_EQ(Typing("car", save), folder + "\\car.vhc");
   EXPECT_EQ(Typing("truck.vhc", save), folder + "\\truck.vhc");

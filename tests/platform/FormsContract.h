@@ -142,14 +142,10 @@ TEST_F(FormsContract, RemovingRowsKeepsANeighbourSelected) {
 }
 
 TEST_F(FormsContract, ATextOfSeveralLinesKeepsThem) {
-  window.Notes.SetText("one
-two
-");
+  window.Notes.SetText("one\r\ntwo\r\n");
   OpenWindow();
   window.Notes.Focus();
-  EXPECT_EQ(TestMachine::Hears(), "Notes, edit, read only, one
-two
-, Alt+N");
+  EXPECT_EQ(TestMachine::Hears(), "Notes, edit, read only, one\r\ntwo\r\n, Alt+N");
 }
 
 // --- Tab, Enter, Escape, Space, access keys ---

@@ -1,5 +1,7 @@
 #include "platform/win32/Failure.h"
 
+#include <string_view>
+
 #include "base/RuntimeError.h"
 
 namespace Platform {
@@ -69,18 +71,23 @@ bool IsInUseForReplacing(DWORD error) {
   return IsInUse(error) || error == ERROR_ACCESS_DENIED;
 }
 
-void CheckName(const std::string& path) {
-  if (path.size() > LongestPath) throw NameNotUsable(path);
+bool IsNameUsable(const std::string& path) {
+  if (path.size() > LongestPath) return false;
   for (size_t i = 0; i < path.size(); ++i) {
     const auto c = static_cast<unsigned char>(path[i]);
     const bool isDriveColon = c == ':' && i == 1;
-    if (c < ' ' ||
-        (!isDriveColon && std::string_view("<>:\"|?*").find(path[i]) != std::string_view::npos)) {
-      throw NameNotUsable(path);
+    if (c < ' ') return false;
+    if (!isDriveColon && std::string_view("<>:\"|?*").find(path[i]) != std::string_view::npos) {
+      return false;
     }
     // In a code page of two bytes a character, the second may look like one of the above.
     if (IsDBCSLeadByte(c)) ++i;
   }
+  return true;
+}
+
+void CheckName(const std::string& path) {
+  if (!IsNameUsable(path)) throw NameNotUsable(path);
 }
 
 }  // namespace Platform

@@ -22,8 +22,9 @@ bool IsInUse(DWORD error);
 // has it open.
 bool IsInUseForReplacing(DWORD error);
 
-// Fails with PathFileAccess, cause NameNotUsable, if the path is too long or holds a character that
-// no name can have.
+// False if the path is too long or holds a character that no name can have.
+bool IsNameUsable(const std::string& path);
+// Fails with PathFileAccess, cause NameNotUsable, if it is not.
 void CheckName(const std::string& path);
 
 }  // namespace Platform

@@ -17,11 +17,11 @@ class TemporaryFile {
  public:
   // Makes one in a folder. If that fails, it is not open and file().error() tells why.
   explicit TemporaryFile(const std::string& folder) {
-    static unsigned counter = 0;
+    // The name is so short that it can be had in every folder in which a file can be made at all.
+    static DWORD number = GetTickCount() ^ GetCurrentProcessId() << 8;
     do {
       char name[32];
-      std::snprintf(name, sizeof name, "\\~%04lx%04x.tmp", GetCurrentProcessId() & 0xFFFF,
-                    ++counter & 0xFFFF);
+      std::snprintf(name, sizeof name, "\\~%06lx.tmp", ++number & 0xFFFFFF);
       file_ = OpenFile(folder + name, GENERIC_READ | GENERIC_WRITE | DELETE, 0, CREATE_NEW);
     } while (file_.error() == ERROR_FILE_EXISTS || file_.error() == ERROR_ALREADY_EXISTS);
     if (file_.IsOpen()) Vanishes(true);

@@ -1,0 +1,215 @@
+// Files and folders of the contract tests, reached by the system's own functions.
+#include "tests/platform/RealMachine.h"
+
+#include <aclapi.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+#include "tests/platform/TestMachine.h"
+
+namespace TestMachine {
+
+namespace {
+
+std::map<std::string, HANDLE>& Holds() {
+  static std::map<std::string, HANDLE> holds;
+  return holds;
+}
+
+std::string TemporaryFolder() {
+  char path[MAX_PATH + 1];
+  const DWORD length = GetTempPathA(sizeof path, path);
+  return std::string(path, length) + "sk2contract" + std::to_string(GetCurrentProcessId());
+}
+
+// The names in a folder but "." and "..".
+std::vector<std::string> AllNames(const std::string& folder) {
+  std::vector<std::string> names;
+  WIN32_FIND_DATAA found;
+  const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    const std::string name = found.cFileName;
+    if (name != "." && name != "..") names.push_back(name);
+  } while (FindNextFileA(search, &found));
+  FindClose(search);
+  return names;
+}
+
+// The right to make and delete files in a folder, for everyone.
+void SetRefusal(const std::string& folder, bool isRefused) {
+  std::string name = folder;
+  PSID everyone = nullptr;
+  SID_IDENTIFIER_AUTHORITY world = SECURITY_WORLD_SID_AUTHORITY;
+  if (!AllocateAndInitializeSid(&world, 1, SECURITY_WORLD_RID, 0, 0, 0, 0, 0, 0, 0, &everyone)) {
+    return;
+  }
+  EXPLICIT_ACCESSA access{};
+  access.grfAccessPermissions = FILE_ADD_FILE | FILE_DELETE_CHILD;
+  access.grfAccessMode = isRefused ? DENY_ACCESS : GRANT_ACCESS;
+  access.grfInheritance = NO_INHERITANCE;
+  access.Trustee.TrusteeForm = TRUSTEE_IS_SID;
+  access.Trustee.ptstrName = static_cast<LPSTR>(everyone);
+  PACL old = nullptr;
+  PACL changed = nullptr;
+  PSECURITY_DESCRIPTOR descriptor = nullptr;
+  if (GetNamedSecurityInfoA(name.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr,
+                            nullptr, &old, nullptr, &descriptor) == ERROR_SUCCESS &&
+      SetEntriesInAclA(1, &access, old, &changed) == ERROR_SUCCESS) {
+    SetNamedSecurityInfoA(name.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                          changed, nullptr);
+  }
+  LocalFree(changed);
+  LocalFree(descriptor);
+  FreeSid(everyone);
+}
+
+// Where the system does not mind such rights, the one beneath it may have a way of its own. Changes
+// nothing if there is none.
+void SetImmutable(const std::string& folder, bool isImmutable) {
+  using GetHostName = char*(CDECL*)(const wchar_t*);
+  const auto getHostName = reinterpret_cast<GetHostName>(reinterpret_cast<void*>(
+      GetProcAddress(GetModuleHandleA("kernel32"), "wine_get_unix_file_name")));
+  if (!getHostName) return;
+  const std::wstring wide(folder.begin(), folder.end());
+  char* const hostName = getHostName(wide.c_str());
+  if (!hostName) return;
+  std::string command = std::string("\"Z:\\usr\\bin\\chattr\" ") + (isImmutable ? "+i" : "-i") +
+                        " \"" + hostName + "\"";
+  HeapFree(GetProcessHeap(), 0, hostName);
+  STARTUPINFOA start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                      &process)) {
+    return;
+  }
+  WaitForSingleObject(process.hProcess, INFINITE);
+  CloseHandle(process.hProcess);
+  CloseHandle(process.hThread);
+}
+
+bool TakesNewFiles(const std::string& folder) {
+  const std::string probe = folder + "\\probe";
+  const HANDLE file = CreateFileA(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  CloseHandle(file);
+  DeleteFileA(probe.c_str());
+  return true;
+}
+
+std::vector<std::string>& Refusing() {
+  static std::vector<std::string> folders;
+  return folders;
+}
+
+void RemoveFolder(const std::string& folder) {
+  for (const std::string& name : AllNames(folder)) {
+    const std::string path = folder + "\\" + name;
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
+      RemoveFolder(path);
+    } else {
+      EXPECT_TRUE(DeleteFileA(path.c_str())) << path << " is still open";
+    }
+  }
+  RemoveDirectoryA(folder.c_str());
+}
+
+}  // namespace
+
+std::string ScratchFolder() {
+  const std::string folder = TemporaryFolder();
+  CreateDirectoryA(folder.c_str(), nullptr);
+  return folder;
+}
+
+void PutFile(const std::string& path, const std::string& bytes) {
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  DWORD count = 0;
+  const bool isWritten =
+      file != INVALID_HANDLE_VALUE &&
+      WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+  EXPECT_TRUE(isWritten) << path;
+  CloseHandle(file);
+}
+
+void PutFolder(const std::string& path) {
+  EXPECT_TRUE(CreateDirectoryA(path.c_str(), nullptr)) << path;
+}
+
+std::optional<std::string> BytesOf(const std::string& path) {
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return std::nullopt;
+  std::string bytes;
+  char block[4096];
+  DWORD count = 0;
+  while (ReadFile(file, block, sizeof block, &count, nullptr) && count > 0) {
+    bytes.append(block, count);
+  }
+  CloseHandle(file);
+  return bytes;
+}
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names = AllNames(folder);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+void SetAttributes(const std::string& path, int attributes) {
+  DWORD native = 0;
+  if (attributes & ReadOnly) native |= FILE_ATTRIBUTE_READONLY;
+  if (attributes & Hidden) native |= FILE_ATTRIBUTE_HIDDEN;
+  if (attributes & System) native |= FILE_ATTRIBUTE_SYSTEM;
+  EXPECT_TRUE(SetFileAttributesA(path.c_str(), native ? native : FILE_ATTRIBUTE_NORMAL)) << path;
+}
+
+int AttributesOf(const std::string& path) {
+  const DWORD native = GetFileAttributesA(path.c_str());
+  int attributes = 0;
+  if (native & FILE_ATTRIBUTE_READONLY) attributes |= ReadOnly;
+  if (native & FILE_ATTRIBUTE_HIDDEN) attributes |= Hidden;
+  if (native & FILE_ATTRIBUTE_SYSTEM) attributes |= System;
+  return attributes;
+}
+
+void Hold(const std::string& path, Sharing sharing) {
+  const HANDLE file =
+      CreateFileA(path.c_str(), GENERIC_READ, sharing == Sharing::ForReading ? FILE_SHARE_READ : 0,
+                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  ASSERT_NE(file, INVALID_HANDLE_VALUE) << path;
+  Holds()[path] = file;
+}
+
+void LetGo(const std::string& path) {
+  CloseHandle(Holds().at(path));
+  Holds().erase(path);
+}
+
+bool RefuseNewFiles(const std::string& folder) {
+  Refusing().push_back(folder);
+  SetRefusal(folder, true);
+  if (TakesNewFiles(folder)) SetImmutable(folder, true);
+  return !TakesNewFiles(folder);
+}
+
+}  // namespace TestMachine
+
+void RealMachine::PutBackFiles() {
+  using namespace TestMachine;
+  while (!Holds().empty()) LetGo(std::string(Holds().begin()->first));
+  for (const std::string& folder : Refusing()) {
+    SetImmutable(folder, false);
+    SetRefusal(folder, false);
+  }
+  Refusing().clear();
+  RemoveFolder(TemporaryFolder());
+}

@@ -1,0 +1,12 @@
+// Holds the real machine to the contracts.
+#include "tests/platform/DialogsContract.h"
+#include "tests/platform/FilesContract.h"
+#include "tests/platform/FormsContract.h"
+#include "tests/platform/NumbersContract.h"
+#include "tests/platform/RegistryContract.h"
+#include "tests/platform/SystemContract.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
