@@ -66,6 +66,16 @@ void SetRefusal(const std::string& folder, bool isRefused) {
   FreeSid(everyone);
 }
 
+bool TakesNewFiles(const std::string& folder) {
+  const std::string probe = folder + "\\probe";
+  const HANDLE file = CreateFileA(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  CloseHandle(file);
+  DeleteFileA(probe.c_str());
+  return true;
+}
+
 // Where the system does not mind such rights, the one beneath it may have a way of its own. Changes
 // nothing if there is none.
 void SetImmutable(const std::string& folder, bool isImmutable) {
@@ -86,19 +96,11 @@ void SetImmutable(const std::string& folder, bool isImmutable) {
                       &process)) {
     return;
   }
-  WaitForSingleObject(process.hProcess, INFINITE);
-  CloseHandle(process.hProcess);
-  CloseHandle(process.hThread);
-}
-
-bool TakesNewFiles(const std::string& folder) {
-  const std::string probe = folder + "\\probe";
-  const HANDLE file = CreateFileA(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                  FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return false;
-  CloseHandle(file);
-  DeleteFileA(probe.c_str());
-  return true;
+  if (process.hProcess) CloseHandle(process.hProcess);
+  if (process.hThread) CloseHandle(process.hThread);
+  // The system beneath gives no handle to wait for.
+  const ULONGLONG deadline = GetTickCount64() + 5000;
+  while (TakesNewFiles(folder) == isImmutable && GetTickCount64() < deadline) SwitchToThread();
 }
 
 std::vector<std::string>& Refusing() {
@@ -207,8 +209,8 @@ void RealMachine::PutBackFiles() {
   using namespace TestMachine;
   while (!Holds().empty()) LetGo(std::string(Holds().begin()->first));
   for (const std::string& folder : Refusing()) {
-    SetImmutable(folder, false);
     SetRefusal(folder, false);
+    if (!TakesNewFiles(folder)) SetImmutable(folder, false);
   }
   Refusing().clear();
   RemoveFolder(TemporaryFolder());
