@@ -1,6 +1,7 @@
 #include "tracks/TrackChecker.h"
 
 #include <exception>
+#include <limits>
 #include <string_view>
 
 #include "base/Maths.h"
@@ -13,10 +14,22 @@
 
 namespace {
 
-constexpr int32_t LastCurve = 12;
-constexpr int32_t LastSurface = 3;
-constexpr int32_t ShortestLength = 5000;
+// What a line stands for. A line after a complete part is the end marker or the next curve.
+enum Position { Start, Curve, Surface, Length, End, Weather };
+
+struct Range {
+  int32_t low;
+  int32_t high;
+  bool Holds(int32_t value) const { return value >= low && value <= high; }
+};
+
 constexpr int32_t EndMarker = -1;
+constexpr Range CurveRange{0, 12};
+constexpr Range SurfaceRange{0, 3};
+constexpr Range LengthRange{5000, std::numeric_limits<int32_t>::max()};
+constexpr Range WeatherRange{0, 1};
+constexpr Range Ranges[] = {
+    {}, CurveRange, SurfaceRange, LengthRange, {EndMarker, EndMarker}, WeatherRange};
 
 class Checker {
  public:
@@ -29,11 +42,9 @@ class Checker {
   int32_t lines() const { return Maths::ToInt32(static_cast<double>(lines_)); }
 
  private:
-  // What the line stands for. A line after a complete part is the end marker or the next curve.
-  enum Position { Start, Curve, Surface, Length, End, Weather };
-
   void TakeLine(std::string_view line);
-  void TakeText();
+  void FailNotNumeric();
+  void FailOutOfRange();
   void Fail(int32_t code, const std::string& message);
   std::string Prefix() const;
 
@@ -49,8 +60,9 @@ std::string InBrackets(const std::string& text) {
 }
 
 // The text of a range, such as "... must be between 0 and 3.".
-std::string Range(const LangText& text, const LangText& word, int32_t last) {
-  return GetLangString(text) + " 0 " + GetLangString(word) + " " + std::to_string(last) + ".";
+std::string TextOf(const LangText& text, const Range& range, const LangText& word) {
+  return GetLangString(text) + " " + std::to_string(range.low) + " " + GetLangString(word) + " " +
+         std::to_string(range.high) + ".";
 }
 
 void Checker::Check(const std::string& path) {
@@ -73,47 +85,39 @@ void Checker::Check(const std::string& path) {
 }
 
 void Checker::TakeLine(std::string_view line) {
-  const auto number = Platform::ParseNumber(line);
-  if (!number) return TakeText();
-  const int32_t value = Maths::ToInt32(*number);
-  if (position_ == End && value != EndMarker) {
+  const auto value = Platform::ParseWhole(line);
+  if (!value) return FailNotNumeric();
+  if (position_ == End && *value != EndMarker) {
     ++part_;
     position_ = Curve;
   }
+  if (!Ranges[position_].Holds(*value)) FailOutOfRange();
+}
+
+void Checker::FailOutOfRange() {
   switch (position_) {
     case Curve:
-      if (value < 0 || value > LastCurve) {
-        Fail(TrackFault::CurveOutOfRange,
-             Prefix() + Range(TrackTexts.CTFTrackPartOutOfRange, SharedTexts.And, LastCurve));
-      }
-      break;
+      return Fail(TrackFault::CurveOutOfRange, Prefix() + TextOf(TrackTexts.CTFTrackPartOutOfRange,
+                                                                 CurveRange, SharedTexts.And));
     case Surface:
-      if (value < 0 || value > LastSurface) {
-        Fail(TrackFault::SurfaceOutOfRange,
-             Prefix() +
-                 Range(TrackTexts.CTFTrackSurfaceTypeOutOfRange, SharedTexts.And, LastSurface));
-      }
-      break;
+      return Fail(TrackFault::SurfaceOutOfRange,
+                  Prefix() + TextOf(TrackTexts.CTFTrackSurfaceTypeOutOfRange, SurfaceRange,
+                                    SharedTexts.And));
     case Length:
-      if (value < ShortestLength) {
-        Fail(TrackFault::LengthTooLow,
-             Prefix() + GetLangString(TrackTexts.CTFTrackSectionLengthTooLow) + " " +
-                 std::to_string(ShortestLength) + " " + GetLangString(TrackTexts.OrMore) + ".");
-      }
-      break;
+      return Fail(TrackFault::LengthTooLow,
+                  Prefix() + GetLangString(TrackTexts.CTFTrackSectionLengthTooLow) + " " +
+                      std::to_string(LengthRange.low) + " " + GetLangString(TrackTexts.OrMore) +
+                      ".");
     case Weather:
-      if (value < 0 || value > 1) {
-        Fail(TrackFault::WeatherOutOfRange,
-             InBrackets(GetLangString(TrackTexts.End)) +
-                 Range(TrackTexts.CTFWeatherOutOfRange, SharedTexts.Or, 1));
-      }
-      break;
+      return Fail(TrackFault::WeatherOutOfRange,
+                  InBrackets(GetLangString(TrackTexts.End)) +
+                      TextOf(TrackTexts.CTFWeatherOutOfRange, WeatherRange, SharedTexts.Or));
   }
 }
 
 // A line that is no number is a fault with words of its own within a part only; where the next part
 // or the weather may begin, it is converted untested.
-void Checker::TakeText() {
+void Checker::FailNotNumeric() {
   switch (position_) {
     case Curve:
       return Fail(TrackFault::CurveNotNumeric,

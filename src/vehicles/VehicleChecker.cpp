@@ -44,17 +44,16 @@ bool IsInternalSound(VehicleVariable variable, std::string_view value) {
 }
 
 std::optional<Fault> FaultOfNumber(VehicleVariable variable, std::string_view value) {
-  const auto number = Platform::ParseNumber(value);
-  if (!number) {
+  const auto whole = Platform::ParseWhole(value);
+  if (!whole) {
     return Fault{VehicleFault::InvalidValue, GetLangString(VehicleTexts.CVFInvalidValue)};
   }
-  const int32_t whole = Maths::ToInt32(*number);
-  if (variable == VehicleVariable::SteeringFactor && (whole < 1 || whole > 100)) {
+  if (variable == VehicleVariable::SteeringFactor && (*whole < 1 || *whole > 100)) {
     return Fault{VehicleFault::SteeringFactorOutOfRange,
                  GetLangString(VehicleTexts.CVFSteeringFactorOutOfRange) + " 1 " +
                      GetLangString(SharedTexts.And) + " 100."};
   }
-  if (variable == VehicleVariable::HasWipers && (whole < 0 || whole > 1)) {
+  if (variable == VehicleVariable::HasWipers && (*whole < 0 || *whole > 1)) {
     return Fault{VehicleFault::HasWipersOutOfRange,
                  GetLangString(VehicleTexts.CVFHasWipersOutOfRange) + " 0 " +
                      GetLangString(SharedTexts.Or) + " 1."};
