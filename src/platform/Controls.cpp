@@ -27,15 +27,23 @@ void Control::SetCaption(const std::string& caption) {
 void Control::SetEnabled(bool isEnabled) {
   if (isEnabled == isEnabled_) return;
   isEnabled_ = isEnabled;
-  if (HasFocus() && !TakesFocus()) form_.MoveFocusOn();
-  if (form_.view()) form_.view()->StateChanged(*this);
+  StateChanged();
 }
 
 void Control::SetVisible(bool isVisible) {
   if (isVisible == isVisible_) return;
   isVisible_ = isVisible;
+  StateChanged();
+}
+
+void Control::StateChanged() {
   if (HasFocus() && !TakesFocus()) form_.MoveFocusOn();
-  if (form_.view()) form_.view()->StateChanged(*this);
+  // A window in which nothing could take the focus has it on the first control that can again.
+  const bool isFirstUsable = !form_.focus() && TakesFocus();
+  if (isFirstUsable) form_.focus_ = this;
+  if (!form_.view()) return;
+  form_.view()->StateChanged(*this);
+  if (isFirstUsable) form_.view()->FocusChanged();
 }
 
 bool Control::TakesFocus() const {

@@ -49,6 +49,8 @@ class Control {
 
  private:
   friend class Form;
+  void StateChanged();
+
   Form& form_;
   Kind kind_;
   LangText captionText_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <new>
+#include <string_view>
 
 #include "base/PerRun.h"
 #include "base/RuntimeError.h"
@@ -37,6 +38,19 @@ Stage& TheStage() {
 // Tells the user that an action could not be finished.
 void Report(const LangText& cause, const std::string& file) {
   MsgBox(FailureText(cause, file), Translate(RuntimeErrorTexts.Title), Icon::Critical);
+}
+
+// True for a key with which a text box moves, types, deletes, or uses the clipboard.
+bool IsForEditing(const KeyEvent& key) {
+  if (key.code >= Key::PageUp && key.code <= Key::Delete) return true;
+  if (key.shift == Shift::Ctrl && key.code >= 'A' && key.code <= 'Z') {
+    return std::string_view("ACVXZ").find(static_cast<char>(key.code)) != std::string_view::npos;
+  }
+  if (key.shift & (Shift::Ctrl | Shift::Alt)) return false;
+  const bool isDialogKey =
+      key.code == Key::Tab || key.code == Key::Enter || key.code == Key::Escape;
+  const bool isFunctionKey = key.code >= Key::F1 && key.code <= Key::F24;
+  return !isDialogKey && !isFunctionKey;
 }
 
 void AddSharedKeys(std::vector<std::string>& shared, const std::vector<std::string>& captions) {
@@ -82,6 +96,7 @@ void Stage::Settle() {
 
 void Stage::End() {
   hasEnded = true;
+  for (Form* form : modals) form->EndModal();
   if (!current) return;
   current->isVisible_ = false;
   if (current->view_) current->view_->Hide();
@@ -202,14 +217,7 @@ Button* Form::cancelButton() const {
 
 bool Form::KeyDown(KeyEvent key) {
   if (!OnKeyDown) return false;
-  if (focus_ && focus_->kind() == Control::Kind::TextBox) {
-    const bool isCommand = key.shift == Shift::Ctrl && key.code >= 'A' && key.code <= 'Z';
-    const bool isEditing =
-        isCommand ? std::string("ACVXZ").find(static_cast<char>(key.code)) != std::string::npos
-                  : !(key.shift & (Shift::Ctrl | Shift::Alt)) ||
-                        (key.code >= Key::End && key.code <= Key::Delete);
-    if (isEditing && key.code != Key::Escape && key.code != Key::Enter) return false;
-  }
+  if (focus_ && focus_->kind() == Control::Kind::TextBox && IsForEditing(key)) return false;
   Dispatch([&] { OnKeyDown(key); });
   return key.isHandled;
 }
@@ -250,6 +258,8 @@ std::string FailureText(const LangText& cause, const std::string& file) {
 void StartProgram(Form& main) {
   TheStage().main = &main;
   Dispatch([&] { main.Show(); });
+  // Without its main window the program could not even be closed.
+  if (!main.IsVisible()) EndProgram();
 }
 
 Form& MainForm() {

@@ -108,7 +108,8 @@ void Dispatch(const std::function<void()>& handler);
 // What the user is told about a failure: the cause in their language and the file, if there is one.
 std::string FailureText(const LangText& cause, const std::string& file);
 
-// Starts the program with its main window: loads and shows it.
+// Starts the program with its main window: loads and shows it. If it cannot be loaded, the user is
+// told and the program ends.
 void StartProgram(Form& main);
 // The main window. There must be one.
 Form& MainForm();

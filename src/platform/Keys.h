@@ -21,7 +21,9 @@ enum Code {
   Down = 40,
   Insert = 45,
   Delete = 46,
+  F1 = 112,
   F4 = 115,
+  F24 = 135,
 };
 }
 

@@ -15,6 +15,11 @@ std::string FileDialog::Show() {
   if (title.empty()) Simulated::Complain("a file dialog without a title");
   const Form* owner = ActiveForm();
   if (owner && !owner->IsVisible()) Simulated::Complain("a file dialog over nothing: " + title);
+  if (const auto action = script.TakeBoxStep(title)) {
+    machine.screen.dialogs.push_back(title);
+    (*action)();
+    machine.screen.dialogs.pop_back();
+  }
   if (script.files.empty()) {
     Simulated::Complain("an unexpected file dialog: " + title);
     return "";

@@ -17,21 +17,20 @@ std::function<void()> NextModalAction(const Form& form) {
     }
   }
   script.modalsSeen.push_back({form.title(), prompt});
-  if (script.modals.empty() ||
-      (!script.modals.front().title.empty() && script.modals.front().title != form.title())) {
-    Simulated::Complain("an unexpected window: " + form.title() + " " + prompt);
-    return [] {};
-  }
-  auto action = std::move(script.modals.front().action);
-  script.modals.pop_front();
-  return action;
+  if (const auto action = script.TakeModalStep(form.title())) return *action;
+  Simulated::Complain("an unexpected window: " + form.title() + " " + prompt);
+  return [] {};
 }
 
 }  // namespace
 
-FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {}
+FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {
+  Simulated::TheMachine().screen.windows.push_back(native_.get());
+}
 
-FormView::~FormView() = default;
+FormView::~FormView() {
+  std::erase(Simulated::TheMachine().screen.windows, native_.get());
+}
 
 void FormView::Show() {
   native_->isShown = true;

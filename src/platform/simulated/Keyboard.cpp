@@ -4,7 +4,8 @@
 #include <cctype>
 #include <map>
 
-#include "platform/simulated/Complaints.h"
+#include "platform/simulated/Machine.h"
+#include "platform/simulated/OpenBox.h"
 #include "platform/simulated/Window.h"
 
 namespace Simulated {
@@ -26,22 +27,11 @@ constexpr int KeyOfSomeCharacter = 231;  // a character that is not on a key of 
 
 KeyEvent KeyNamed(std::string name) {
   static const std::map<std::string, int> codes = {
-      {"Backspace", Key::Backspace},
-      {"Tab", Key::Tab},
-      {"Enter", Key::Enter},
-      {"Escape", Key::Escape},
-      {"Space", Key::Space},
-      {"PageUp", Key::PageUp},
-      {"PageDown", Key::PageDown},
-      {"End", Key::End},
-      {"Home", Key::Home},
-      {"Left", Key::Left},
-      {"Up", Key::Up},
-      {"Right", Key::Right},
-      {"Down", Key::Down},
-      {"Insert", Key::Insert},
-      {"Delete", Key::Delete},
-      {"F4", Key::F4},
+      {"Backspace", Key::Backspace}, {"Tab", Key::Tab},       {"Enter", Key::Enter},
+      {"Escape", Key::Escape},       {"Space", Key::Space},   {"PageUp", Key::PageUp},
+      {"PageDown", Key::PageDown},   {"End", Key::End},       {"Home", Key::Home},
+      {"Left", Key::Left},           {"Up", Key::Up},         {"Right", Key::Right},
+      {"Down", Key::Down},           {"Insert", Key::Insert}, {"Delete", Key::Delete},
   };
   static const std::map<std::string, int> shifts = {
       {"Shift", Shift::Shift}, {"Ctrl", Shift::Ctrl}, {"Alt", Shift::Alt}};
@@ -54,6 +44,9 @@ KeyEvent KeyNamed(std::string name) {
   }
   if (const auto code = codes.find(name); code != codes.end()) {
     key.code = code->second;
+  } else if (name.size() >= 2 && name[0] == 'F' &&
+             std::isdigit(static_cast<unsigned char>(name[1]))) {
+    key.code = Key::F1 - 1 + std::stoi(name.substr(1));
   } else if (name.size() == 1 && std::isalnum(static_cast<unsigned char>(name[0]))) {
     key.code = std::toupper(static_cast<unsigned char>(name[0]));
   } else {
@@ -158,6 +151,7 @@ void TypeInList(ListBox& list, char character) {
 
 void Keyboard::Press(const std::string& name) {
   const KeyEvent key = KeyNamed(name);
+  if (OpenBox* box = TheMachine().screen.BoxInUse()) return box->Press(key);
   Form* form = ActiveForm();
   if (!form) return Complain("there is no window to press " + name + " in");
   if (form->KeyDown(key) || ActiveForm() != form) return;

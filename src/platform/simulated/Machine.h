@@ -13,6 +13,7 @@
 #include "platform/simulated/LocaleSettings.h"
 #include "platform/simulated/Mutexes.h"
 #include "platform/simulated/Registry.h"
+#include "platform/simulated/Screen.h"
 #include "platform/simulated/Shell.h"
 #include "platform/simulated/Speakers.h"
 #include "platform/simulated/User.h"
@@ -45,6 +46,7 @@ class Machine {
   Mutexes mutexes;
   Speakers sound;
   Shell shell;
+  Screen screen;
   User user;
 };
 

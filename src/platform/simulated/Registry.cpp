@@ -9,21 +9,26 @@ using Platform::RegistryType;
 using Platform::RegistryValue;
 using Platform::RegistryView;
 
+void Registry::Put(RegistryRoot root, RegistryView view, const std::string& subkey,
+                   const std::string& name, const RegistryValue& value) {
+  values_[PlaceOf(root, view, subkey, name)] = value;
+}
+
 void Registry::PutString(RegistryRoot root, RegistryView view, const std::string& subkey,
                          const std::string& name, const std::string& bytes) {
-  values_[PlaceOf(root, view, subkey, name)] = {RegistryType::String, bytes};
+  Put(root, view, subkey, name, {RegistryType::String, bytes});
 }
 
 void Registry::PutNumber(RegistryRoot root, RegistryView view, const std::string& subkey,
                          const std::string& name, uint32_t number) {
   std::string bytes;
   for (int i = 0; i < 4; ++i) bytes += static_cast<char>(number >> (8 * i));
-  values_[PlaceOf(root, view, subkey, name)] = {RegistryType::Number, bytes};
+  Put(root, view, subkey, name, {RegistryType::Number, bytes});
 }
 
 void Registry::PutOther(RegistryRoot root, RegistryView view, const std::string& subkey,
                         const std::string& name, const std::string& bytes) {
-  values_[PlaceOf(root, view, subkey, name)] = {RegistryType::Other, bytes};
+  Put(root, view, subkey, name, {RegistryType::Other, bytes});
 }
 
 void Registry::Delete(RegistryRoot root, RegistryView view, const std::string& subkey,

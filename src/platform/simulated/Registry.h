@@ -14,6 +14,8 @@ namespace Simulated {
 class Registry {
  public:
   // Values as they are stored: a string's final NUL is there only if the bytes have one.
+  void Put(Platform::RegistryRoot root, Platform::RegistryView view, const std::string& subkey,
+           const std::string& name, const Platform::RegistryValue& value);
   void PutString(Platform::RegistryRoot root, Platform::RegistryView view,
                  const std::string& subkey, const std::string& name, const std::string& bytes);
   void PutNumber(Platform::RegistryRoot root, Platform::RegistryView view,

@@ -1,8 +1,34 @@
 #include "platform/simulated/Script.h"
 
+#include <utility>
+
 #include "platform/simulated/Complaints.h"
 
 namespace Simulated {
+
+namespace {
+
+std::function<void()> TakeFirst(std::deque<ModalStep>& steps) {
+  auto action = std::move(steps.front().action);
+  steps.pop_front();
+  return action;
+}
+
+}  // namespace
+
+std::optional<std::function<void()>> Script::TakeModalStep(const std::string& title) {
+  if (modals.empty()) return std::nullopt;
+  const ModalStep& next = modals.front();
+  if (!next.title.empty() && next.title != title) return std::nullopt;
+  return TakeFirst(modals);
+}
+
+std::optional<std::function<void()>> Script::TakeBoxStep(const std::string& title) {
+  if (modals.empty()) return std::nullopt;
+  const ModalStep& next = modals.front();
+  if (!next.isForAnything && (next.title.empty() || next.title != title)) return std::nullopt;
+  return TakeFirst(modals);
+}
 
 void Script::ComplainAboutLeftovers() const {
   for (const Platform::Answer answer : answers) {

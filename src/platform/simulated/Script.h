@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,10 +37,11 @@ struct ModalSeen {
   std::string prompt;  // the name of its first text box, as for an input box; empty if it has none
 };
 
-// What the user does with a modal window.
+// What the user does with a modal window, a box or a file dialog.
 struct ModalStep {
-  std::string title;  // of the window that must open; empty for any
-  std::function<void()> action;
+  std::string title;  // of the window, box or dialog that must open; empty for any modal window
+  bool isForAnything = false;  // for whatever opens next, boxes included
+  std::function<void()> action = nullptr;
 };
 
 struct Script {
@@ -51,6 +53,11 @@ struct Script {
   std::vector<Box> boxes;
   std::vector<FileDialogSeen> fileDialogs;
   std::vector<ModalSeen> modalsSeen;
+
+  // The action for a modal window, or for a box or dialog, that has just opened; nothing if the
+  // next step is not meant for it.
+  std::optional<std::function<void()>> TakeModalStep(const std::string& title);
+  std::optional<std::function<void()>> TakeBoxStep(const std::string& title);
 
   // Complains about each step that never came.
   void ComplainAboutLeftovers() const;

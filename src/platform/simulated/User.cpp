@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/simulated/Complaints.h"
 #include "platform/simulated/Hearing.h"
+#include "platform/simulated/Machine.h"
+#include "platform/simulated/OpenBox.h"
 
 namespace Simulated {
 
@@ -61,18 +62,22 @@ Seen LastOf(const std::vector<Seen>& all, const char* what) {
 }  // namespace
 
 void User::TypesInBox(const std::string& text) {
-  script_.modals.push_back({"", [this, text] {
+  script_.modals.push_back({.title = "", .action = [this, text] {
                               Types(text);
                               Presses("Enter");
                             }});
 }
 
 void User::CancelsBox() {
-  script_.modals.push_back({"", [this] { Presses("Escape"); }});
+  script_.modals.push_back({.title = "", .action = [this] { Presses("Escape"); }});
 }
 
 void User::WhenWindowOpens(const std::string& title, std::function<void()> action) {
-  script_.modals.push_back({title, std::move(action)});
+  script_.modals.push_back({.title = title, .action = std::move(action)});
+}
+
+void User::WhenAnythingOpens(std::function<void()> action) {
+  script_.modals.push_back({.title = "", .isForAnything = true, .action = std::move(action)});
 }
 
 void User::WhenProgramWaits(std::function<void()> action) {
@@ -134,6 +139,9 @@ std::vector<std::string> User::HearsOnOpening() const {
 }
 
 std::string User::SeesWindow() const {
+  const Screen& screen = TheMachine().screen;
+  if (const OpenBox* box = screen.BoxInUse()) return box->box().title;
+  if (!screen.dialogs.empty()) return screen.dialogs.back();
   return ActiveForm() ? ActiveForm()->title() : "";
 }
 

@@ -30,8 +30,12 @@ class User {
   void TypesInBox(const std::string& text);
   void CancelsBox();
 
-  // In the next modal window, which must have this title and be closed by the action.
+  // In the next modal window, box or file dialog with this title, which the action must close. A
+  // box that comes before it is answered as if nothing had been told.
   void WhenWindowOpens(const std::string& title, std::function<void()> action);
+
+  // In the next modal window, box or file dialog, whatever its title.
+  void WhenAnythingOpens(std::function<void()> action);
 
   // Once the program waits for events in RunMessageLoop.
   void WhenProgramWaits(std::function<void()> action);

@@ -1,0 +1,23 @@
+// What is on the screen of the simulated machine.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Simulated {
+
+class OpenBox;
+struct Window;
+
+struct Screen {
+  std::vector<const Window*> windows;  // loaded, on the screen or not
+  std::vector<OpenBox*> boxes;         // the one in use last
+  std::vector<std::string> dialogs;    // titles of open file dialogs, the one in use last
+
+  // The box that has the keyboard, if one has it.
+  OpenBox* BoxInUse() const { return boxes.empty() ? nullptr : boxes.back(); }
+  // The titles of all that is shown, boxes and dialogs included, sorted.
+  std::vector<std::string> Titles() const;
+};
+
+}  // namespace Simulated

@@ -1,0 +1,230 @@
+// Rules of the source tree that a machine can check: who may include whom, and what no header may
+// be called.
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "base/Text.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path Root = SK2_SOURCE_DIR;
+
+struct SourceFile {
+  std::string path;                 // from the root of the tree, with "/"
+  std::vector<std::string> quoted;  // what it includes, as written: "..."
+  std::vector<std::string> system;  // <...>
+};
+
+SourceFile Read(const fs::path& path) {
+  SourceFile file{fs::relative(path, Root).generic_string(), {}, {}};
+  std::ifstream stream(path);
+  for (std::string line; std::getline(stream, line);) {
+    std::istringstream words(line);
+    std::string name;
+    std::string hash;
+    if (!(words >> hash) || !hash.starts_with('#')) continue;
+    if (hash == "#") words >> name;
+    if (hash != "#include" && name != "include") continue;
+    const size_t begin = line.find_first_of("\"<");
+    const size_t end = line.find_last_of("\">");
+    if (begin == std::string::npos || end <= begin) continue;
+    auto& list = line[begin] == '"' ? file.quoted : file.system;
+    list.push_back(line.substr(begin + 1, end - begin - 1));
+  }
+  return file;
+}
+
+const std::vector<SourceFile>& AllFiles() {
+  static const std::vector<SourceFile> files = [] {
+    std::vector<SourceFile> all;
+    for (const char* folder : {"src", "orec", "tests", "e2e", "bench", "fuzz"}) {
+      if (!fs::exists(Root / folder)) continue;
+      for (const auto& entry : fs::recursive_directory_iterator(Root / folder)) {
+        const std::string extension = entry.path().extension().string();
+        if (extension == ".h" || extension == ".cpp") all.push_back(Read(entry.path()));
+      }
+    }
+    return all;
+  }();
+  return files;
+}
+
+bool IsIn(const std::string& path, const char* folder) {
+  return path.starts_with(std::string(folder) + "/");
+}
+
+// The program's own layers, the lowest first. A file includes from its own layer and lower ones. A
+// prefix of a path that stands further up wins.
+struct Layer {
+  const char* prefix;
+  int height;
+};
+constexpr int Leaves = 2;  // what all tools use: they may know each other, but not in a circle
+constexpr int Tools = 3;
+constexpr int App = 4;
+constexpr Layer Layers[] = {
+    {"src/base/", 0},
+    {"src/platform/", 1},
+    {"src/text/StringTable", Leaves},
+    {"src/app/AppTexts", Leaves},
+    {"src/app/Application", Leaves},
+    {"src/app/CheckReport", Leaves},
+    {"src/app/FileDialog", Leaves},
+    {"src/app/Program", Leaves},
+    {"src/app/Registry", Leaves},
+    {"src/text/", Tools},
+    {"src/vehicles/", Tools},
+    {"src/tracks/", Tools},
+    {"src/packaging/", Tools},
+    {"src/records/", Tools},
+    {"src/internet/", Tools},
+    {"src/update/", Tools},
+    {"src/app/", App},
+};
+
+int HeightOf(const std::string& path) {
+  for (const auto& [prefix, height] : Layers) {
+    if (path.starts_with(prefix)) return height;
+  }
+  return -1;
+}
+
+TEST(SourceTree, IsThere) {
+  EXPECT_GT(AllFiles().size(), 100u);
+}
+
+TEST(SourceTree, EveryFileOfTheProgramIsInALayer) {
+  for (const SourceFile& file : AllFiles()) {
+    if (IsIn(file.path, "src")) {
+      EXPECT_GE(HeightOf(file.path), 0) << file.path;
+    }
+  }
+}
+
+TEST(SourceTree, NoFileIncludesAHigherLayer) {
+  for (const SourceFile& file : AllFiles()) {
+    for (const std::string& name : file.quoted) {
+      if (!IsIn(file.path, "src")) continue;
+      EXPECT_LE(HeightOf("src/" + name), HeightOf(file.path)) << file.path << " includes " << name;
+    }
+  }
+}
+
+TEST(SourceTree, EveryIncludedFileOfOursIsThereWithThatLetterCase) {
+  std::set<std::string> paths;
+  for (const SourceFile& file : AllFiles()) paths.insert(file.path);
+  const std::string generated = "app/Addresses.h";
+  for (const SourceFile& file : AllFiles()) {
+    for (const std::string& name : file.quoted) {
+      const std::string beside = fs::path(file.path).parent_path().generic_string() + "/" + name;
+      EXPECT_TRUE(paths.count("src/" + name) || paths.count(name) || paths.count(beside) ||
+                  name == generated)
+          << file.path << " includes " << name;
+    }
+  }
+}
+
+TEST(SourceTree, IncludesFormNoCircle) {
+  std::map<std::string, std::vector<std::string>> includes;
+  for (const SourceFile& file : AllFiles()) {
+    for (const std::string& name : file.quoted) {
+      includes[file.path].push_back(IsIn(name, "tests") ? name : "src/" + name);
+    }
+  }
+  std::set<std::string> finished;
+  std::vector<std::string> trail;
+  const auto visit = [&](const auto& self, const std::string& path) -> void {
+    if (finished.count(path)) return;
+    if (std::find(trail.begin(), trail.end(), path) != trail.end()) {
+      ADD_FAILURE() << testing::PrintToString(trail) << " lead back to " << path;
+      return;
+    }
+    trail.push_back(path);
+    for (const std::string& next : includes[path]) self(self, next);
+    trail.pop_back();
+    finished.insert(path);
+  };
+  for (const SourceFile& file : AllFiles()) visit(visit, file.path);
+}
+
+TEST(SourceTree, AToolKnowsNeitherTheMainWindowNorTheMenuActions) {
+  for (const SourceFile& file : AllFiles()) {
+    if (!IsIn(file.path, "src") || HeightOf(file.path) >= App) continue;
+    EXPECT_THAT(file.quoted, testing::Not(testing::Contains("app/SK2UtilityPack.h"))) << file.path;
+    EXPECT_THAT(file.quoted, testing::Not(testing::Contains("app/Interface.h"))) << file.path;
+  }
+}
+
+TEST(SourceTree, OnlyTheRealMachineKnowsWindowsHeaders) {
+  // Headers of the C++ library have no extension. These others are not of Windows.
+  const auto isOfWindows = [](const std::string& name) {
+    return name.ends_with(".h") && name != "zlib.h" && name != "unistd.h" && !IsIn(name, "sys") &&
+           !IsIn(name, "gtest") && !IsIn(name, "gmock");
+  };
+  for (const SourceFile& file : AllFiles()) {
+    if (IsIn(file.path, "src/platform/win32") || IsIn(file.path, "orec") ||
+        IsIn(file.path, "e2e") || Text::Contains(file.path, "/RealMachine")) {
+      continue;
+    }
+    for (const std::string& name : file.system) {
+      EXPECT_FALSE(isOfWindows(name)) << file.path << " includes " << name;
+    }
+  }
+}
+
+TEST(SourceTree, TheProgramKnowsItsMachineByTheSharedHeadersAlone) {
+  for (const SourceFile& file : AllFiles()) {
+    if (!IsIn(file.path, "src") || IsIn(file.path, "src/platform/win32") ||
+        IsIn(file.path, "src/platform/simulated")) {
+      continue;
+    }
+    for (const std::string& name : file.quoted) {
+      EXPECT_FALSE(IsIn(name, "platform/simulated")) << file.path << " includes " << name;
+      EXPECT_FALSE(IsIn(name, "platform/win32")) << file.path << " includes " << name;
+    }
+  }
+}
+
+TEST(SourceTree, NoConditionOnTheMachineStandsOutsideOfIt) {
+  for (const SourceFile& file : AllFiles()) {
+    if (!IsIn(file.path, "src") || IsIn(file.path, "src/platform/win32")) continue;
+    std::ifstream stream(Root / file.path);
+    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    EXPECT_FALSE(Text::Contains(text, "_WIN32")) << file.path;
+  }
+}
+
+TEST(SourceTree, NoHeaderIsCalledLikeOneOfTheSystem) {
+  const std::set<std::string> forbidden = {
+      "assert.h",  "ctype.h",   "direct.h",   "dos.h",     "errno.h",  "fenv.h",   "float.h",
+      "io.h",      "limits.h",  "locale.h",   "malloc.h",  "math.h",   "memory.h", "mmsystem.h",
+      "process.h", "setjmp.h",  "shellapi.h", "signal.h",  "stdarg.h", "stddef.h", "stdint.h",
+      "stdio.h",   "stdlib.h",  "string.h",   "strings.h", "tchar.h",  "time.h",   "uchar.h",
+      "wchar.h",   "windows.h", "winuser.h",  "wininet.h", "urlmon.h", "zlib.h",   "zconf.h",
+      "dsound.h",  "resource.h"};
+  for (const SourceFile& file : AllFiles()) {
+    const std::string name = Text::LowerAscii(fs::path(file.path).filename().string());
+    EXPECT_FALSE(forbidden.count(name)) << file.path;
+  }
+}
+
+TEST(SourceTree, EveryHeaderIsGuarded) {
+  for (const SourceFile& file : AllFiles()) {
+    if (!file.path.ends_with(".h")) continue;
+    std::ifstream stream(Root / file.path);
+    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    EXPECT_TRUE(Text::Contains(text, "#pragma once")) << file.path;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,53 @@
+#include "base/LangText.h"
+
+#include <gtest/gtest.h>
+
+#include "base/RuntimeError.h"
+#include "base/SharedTexts.h"
+
+namespace {
+
+TEST(LangText, ATableListsItsTextsInOrder) {
+  const auto texts = TextsOf(SharedTexts);
+  EXPECT_STREQ(texts.front().key, SharedTexts.OKButton.key);
+  EXPECT_STREQ(texts.front().english, "OK");
+  EXPECT_STREQ(texts.back().key, SharedTexts.Track.key);
+}
+
+TEST(LangText, AFixedTextHasNoKey) {
+  constexpr LangText Name = FixedText("Gloamworks");
+  EXPECT_EQ(Name.key, nullptr);
+  EXPECT_STREQ(Name.english, "Gloamworks");
+}
+
+TEST(RuntimeError, CarriesItsUsualCauseAndTheFile) {
+  const RuntimeError error(RuntimeError::DiskFull, "C:\\hill.trk");
+  EXPECT_EQ(error.number(), 61);
+  EXPECT_STREQ(error.cause().key, RuntimeErrorTexts.DiskFull.key);
+  EXPECT_EQ(error.file(), "C:\\hill.trk");
+  EXPECT_STREQ(error.what(), "The disk is full.");
+}
+
+TEST(RuntimeError, EachNumberHasACauseOfItsOwn) {
+  const RuntimeError::Number numbers[] = {
+      RuntimeError::InvalidCall,    RuntimeError::Overflow,         RuntimeError::OutOfMemory,
+      RuntimeError::TypeMismatch,   RuntimeError::FileNotFound,     RuntimeError::DeviceError,
+      RuntimeError::DiskFull,       RuntimeError::PermissionDenied, RuntimeError::DiskNotReady,
+      RuntimeError::PathFileAccess, RuntimeError::PathNotFound};
+  for (const auto number : numbers) {
+    EXPECT_STRNE(RuntimeError(number).cause().key, RuntimeErrorTexts.Unexpected.key) << number;
+    for (const auto other : numbers) {
+      if (other == number) continue;
+      EXPECT_STRNE(RuntimeError(number).what(), RuntimeError(other).what());
+    }
+  }
+}
+
+TEST(RuntimeError, MayHaveACauseInWordsOfItsOwn) {
+  const RuntimeError error(RuntimeError::InvalidCall, RuntimeErrorTexts.GameNotInstalled);
+  EXPECT_EQ(error.number(), 5);
+  EXPECT_STREQ(error.cause().key, "RTEGameNotInstalled");
+  EXPECT_EQ(error.file(), "");
+}
+
+}  // namespace
