@@ -74,4 +74,71 @@ TEST_F(UserStory, ReadsAnErrorInABox) {
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, testing::HasSubstr("C:\\hill.trk"), "Error"));
 }
 
+class MenuStory : public Story {
+ protected:
+  MenuStory() {
+    Close.OnClick = [this] { chosen = "close"; };
+    One.OnClick = [this] { chosen = "one"; };
+    Update.OnClick = [this] { chosen = "update"; };
+    main.OnLoad = [this] { main.TranslateMenu(); };
+    StartProgram(main);
+  }
+
+  Form main{FixedText("Utility Pack")};
+  MenuItem File{main, {.text = FixedText("&File")}};
+  MenuItem Close{File, {.text = FixedText("&Close"), .suffix = " (Alt+F4)"}};
+  MenuItem Help{main, {.text = FixedText("&Help")}};
+  MenuItem Visit{Help, {.text = FixedText("&Visit")}};
+  MenuItem One{Visit, {.text = FixedText("&One")}};
+  MenuItem Two{Visit, {.text = FixedText("&Two")}};
+  MenuItem Update{Help, {.text = FixedText("Update on startup")}};
+  std::string chosen;
+};
+
+TEST_F(MenuStory, WalksThroughMenusWithTheArrowKeys) {
+  user.Presses("Alt+F");
+  EXPECT_EQ(user.Hears(), "Close (Alt+F4), menu item, C");
+  user.Presses("Right");
+  EXPECT_EQ(user.Hears(), "Visit, submenu, V");
+  user.Presses("Right");
+  EXPECT_EQ(user.Hears(), "One, menu item, O");
+  user.Presses("Down");
+  EXPECT_EQ(user.Hears(), "Two, menu item, unavailable, T");
+  user.Presses("Enter");
+  EXPECT_EQ(chosen, "") << "it is greyed";
+  user.Presses("Down");
+  user.Presses("Enter");
+  EXPECT_EQ(chosen, "one");
+  EXPECT_EQ(user.Hears(), "Utility Pack, window");
+}
+
+TEST_F(MenuStory, ChoosesByLetters) {
+  user.Presses("Alt+H");
+  user.Types("vo");
+  EXPECT_EQ(chosen, "one");
+  user.Presses("Alt+H");
+  user.Types("u");
+  EXPECT_EQ(chosen, "update");
+}
+
+TEST_F(MenuStory, LeavesMenusByEscape) {
+  Update.SetChecked(true);
+  user.Presses("Alt+H");
+  user.Presses("V");
+  user.Presses("Escape");
+  EXPECT_EQ(user.Hears(), "Visit, submenu, V");
+  user.Presses("Up");
+  EXPECT_EQ(user.Hears(), "Update on startup, menu item, checked");
+  user.Presses("Escape");
+  EXPECT_EQ(user.Hears(), "Utility Pack, window");
+  EXPECT_EQ(chosen, "");
+}
+
+TEST_F(MenuStory, ChoosesByCaptions) {
+  user.ChoosesMenu({"File", "Close"});
+  EXPECT_EQ(chosen, "close");
+  user.ChoosesMenu({"Help", "Visit", "One"});
+  EXPECT_EQ(chosen, "one");
+}
+
 }  // namespace

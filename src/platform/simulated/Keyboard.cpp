@@ -106,15 +106,20 @@ void PressEnter(Form& form) {
 }
 
 // Alt and a letter: presses the button with that access key, or focuses the control whose label has
-// it.
-void PressAccessKey(Form& form, int code) {
+// it. False if there is none.
+bool PressAccessKey(Form& form, int code) {
   for (Control* control : form.controls()) {
     const int key = static_cast<unsigned char>(Platform::AccessKey(control->caption()));
     if (!control->TakesFocus() || std::toupper(key) != code) continue;
-    if (control->kind() != Control::Kind::Button) return FocusByKey(*control);
-    control->Focus();
-    return static_cast<Button*>(control)->Click();
+    if (control->kind() != Control::Kind::Button) {
+      FocusByKey(*control);
+    } else {
+      control->Focus();
+      static_cast<Button*>(control)->Click();
+    }
+    return true;
   }
+  return false;
 }
 
 void PressInList(ListBox& list, const KeyEvent& key) {
@@ -154,6 +159,7 @@ void Keyboard::Press(const std::string& name) {
   if (OpenBox* box = TheMachine().screen.BoxInUse()) return box->Press(key);
   Form* form = ActiveForm();
   if (!form) return Complain("there is no window to press " + name + " in");
+  if (menu_.IsOpen()) return menu_.Press(key);
   if (form->KeyDown(key) || ActiveForm() != form) return;
   PressInDialog(*form, key);
 }
@@ -161,7 +167,8 @@ void Keyboard::Press(const std::string& name) {
 void Keyboard::PressInDialog(Form& form, const KeyEvent& key) {
   if (key.shift == Shift::Alt && key.code == Key::F4) return form.CloseRequested();
   if (key.shift == Shift::Alt && key.code >= '0' && key.code <= 'Z') {
-    return PressAccessKey(form, key.code);
+    if (!PressAccessKey(form, key.code)) menu_.Open(form, key.code);
+    return;
   }
   if (key.shift & Shift::Alt) return;
   switch (key.code) {
@@ -218,6 +225,10 @@ void Keyboard::Type(const std::string& text) {
   for (const char character : text) {
     Form* form = ActiveForm();
     if (!form) return Complain("there is no window to type in");
+    if (menu_.IsOpen()) {
+      menu_.Press(KeyOf(character));
+      continue;
+    }
     if (form->KeyDown(KeyOf(character)) || ActiveForm() != form) continue;
     Control* focus = form->focus();
     if (!focus) continue;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/Forms.h"
+#include "platform/simulated/MenuWalk.h"
 
 namespace Simulated {
 
@@ -17,6 +18,7 @@ class Keyboard {
 
   std::string SelectedText() const;
   const std::string& clipboard() const { return clipboard_; }
+  const MenuWalk& menu() const { return menu_; }
 
  private:
   // A key that the window itself did not use.
@@ -24,6 +26,7 @@ class Keyboard {
   void PressInTextBox(Platform::TextBox& box, const Platform::KeyEvent& key);
 
   std::string clipboard_;
+  MenuWalk menu_;
 };
 
 }  // namespace Simulated

@@ -130,6 +130,7 @@ void User::DoubleClicks(const std::string& row) {
 
 std::string User::Hears() const {
   const Form* form = WindowInUse("listen to");
+  if (form && keyboard_.menu().IsOpen()) return keyboard_.menu().Heard();
   return form ? Heard(*form) : "";
 }
 

@@ -64,6 +64,7 @@ class User {
   //   "Tracks, list, not selected, Alt+T"
   //   "OK, button"
   //   "Skidrun2 Utility Pack, window"           a window without controls
+  //   "New (CTRL+N), menu item, N"              see MenuWalk::Heard
   std::string Hears() const;
   // What a screen reader says when a window opens: title, explaining texts, focused control.
   std::vector<std::string> HearsOnOpening() const;
