@@ -31,14 +31,20 @@ build windows sk2pack windowpicture
 enter_machine out/run
 
 is_virtual=$once
-if [ -z "$once" ] && ! has_display; then
-  echo "There is no display here: using a virtual one"
-  is_virtual=1
-fi
-if [ -n "$is_virtual" ]; then start_display; fi
-if [ -n "$once" ] || ! has_sound; then
-  echo "There is no sound hardware here: using virtual speakers and microphone"
+if [ -n "$once" ]; then
+  echo "Using a virtual display, virtual speakers and a virtual microphone"
+  start_display
   start_sound
+else
+  if ! has_display; then
+    echo "There is no display here: using a virtual one"
+    is_virtual=1
+    start_display
+  fi
+  if ! has_sound; then
+    echo "There is no sound hardware here: using virtual speakers and a virtual microphone"
+    start_sound
+  fi
 fi
 
 start_windows

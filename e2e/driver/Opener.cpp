@@ -1,5 +1,9 @@
 #include "e2e/driver/Opener.h"
 
+#include <fstream>
+#include <iterator>
+#include <optional>
+
 #include "e2e/driver/Places.h"
 #include "e2e/driver/Wait.h"
 
@@ -32,8 +36,12 @@ Opener::Opener(const std::string& folder)
 }
 
 std::string Opener::WaitForOpened() const {
-  WaitUntil("something opened", [this] { return Exists(recordPath_); });
-  return ReadFile(recordPath_);
+  return WaitFor<std::string>("something opened", [this]() -> std::optional<std::string> {
+    // Its name is there a moment before whoever renamed it lets go of it.
+    std::ifstream file(recordPath_, std::ios::binary);
+    if (!file) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  });
 }
 
 bool Opener::WasStartedToOpen(int count, char** arguments) {

@@ -21,6 +21,7 @@ class PackTest : public testing::Test {
 
   // Starts the pack from its program folder, which is made if there is none yet.
   Pack& StartPack();
+  Pack& RunningPack() { return *pack_; }
   // Makes the program folder before the pack is started.
   //   name     the folder's name; it lies in the scratch folder.
   const std::string& PutProgramFolder(const std::string& name = "SK2Pack");

@@ -1,0 +1,87 @@
+// The demo game: what it offers to play with is good, and what it offers to check is faulty.
+#include <filesystem>
+#include <string>
+
+#include "records/RecordChecker.h"
+#include "tests/Story.h"
+#include "tracks/TrackChecker.h"
+#include "vehicles/VehicleChecker.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::SizeIs;
+
+const std::string Game = "C:\\Games\\Skidrun2";
+
+class DemoGame : public Story {
+ protected:
+  void SetUp() override {
+    Story::SetUp();
+    machine.InstallGame(Game);
+    const fs::path demo = fs::path(SK2_SOURCE_DIR) / "demo";
+    for (const auto& entry : fs::recursive_directory_iterator(demo)) {
+      std::string path = Game + "\\" + fs::relative(entry.path(), demo).string();
+      for (char& c : path) c = c == '/' ? '\\' : c;
+      if (entry.is_directory()) {
+        machine.files.PutFolder(path);
+      } else {
+        machine.files.MountHostFile(path, entry.path().string());
+      }
+    }
+  }
+
+  static std::string VehicleReport(const std::string& file) {
+    int32_t code = 0;
+    std::string message;
+    const int32_t line = CheckVehicleFile(Game + "\\vehicles\\" + file, code, message);
+    return std::to_string(line) + ": " + message;
+  }
+
+  static std::string TrackReport(const std::string& file) {
+    int32_t code = 0;
+    std::string message;
+    const int32_t line = CheckTrackFile(Game + "\\tracks\\" + file, code, message);
+    return std::to_string(line) + ": " + message;
+  }
+};
+
+TEST_F(DemoGame, VehiclesAreGoodButForTheWreck) {
+  const std::string good = "0: Vehicle file checked with no errors.";
+  EXPECT_EQ(VehicleReport("Hornet\\Hornet.vhc"), good);
+  EXPECT_EQ(VehicleReport("Lorry\\Lorry.vhc"), good);
+  EXPECT_EQ(VehicleReport("Wreck\\Wreck.vhc"),
+            "13: Invalid steering factor. Must be a number between 1 and 100.");
+  EXPECT_THAT(machine.files.Names(Game + "\\vehicles"), SizeIs(3));
+}
+
+TEST_F(DemoGame, TracksAreGoodButForTheBrokenOne) {
+  const std::string good = "track file was checked successfully with no errors.";
+  EXPECT_EQ(TrackReport("hill.trk"), "0: 17 lines, 5 parts, " + good);
+  EXPECT_EQ(TrackReport("coast.trk"), "0: 20 lines, 6 parts, " + good);
+  EXPECT_EQ(TrackReport("advharbour.trk"), "0: 23 lines, 7 parts, " + good);
+  EXPECT_EQ(TrackReport("broken.trk"),
+            "9: (L3P3): Track length out of range. Value is to be 5000 or more.");
+  EXPECT_THAT(machine.files.Names(Game + "\\tracks"), SizeIs(4));
+}
+
+TEST_F(DemoGame, RecordsAreGoodAndEachIsOfATrackOfTheGame) {
+  std::string message;
+  EXPECT_EQ(CheckRecordFile(Game + "\\highscore.cfg", message), 0) << message;
+  EXPECT_EQ(machine.files.Text(Game + "\\highscore.cfg"),
+            "hill=72345\r\ncoast=125500\r\nadvharbour=3723004\r\n");
+}
+
+// What changes line ends on the way into a checked-out tree would change what the files mean.
+TEST_F(DemoGame, LinesEndAsTheGameWritesThem) {
+  for (const char* file : {"\\tracks\\hill.trk", "\\tracks\\broken.trk", "\\highscore.cfg",
+                           "\\Skidrun.cfg", "\\vehicles\\Hornet\\Hornet.vhc"}) {
+    const std::string text = machine.files.Text(Game + file);
+    for (size_t i = 0; i < text.size(); i++) {
+      if (text[i] == '\n') EXPECT_TRUE(i > 0 && text[i - 1] == '\r') << file;
+    }
+    EXPECT_TRUE(text.ends_with("\r\n")) << file;
+  }
+}
+
+}  // namespace
