@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 
 #include "e2e/driver/Accessibility.h"
@@ -150,6 +151,7 @@ void SavePictureOf(RECT rectangle, const std::string& words) {
   number = name == lastTest ? number + 1 : 1;
   lastTest = name;
   std::string file = name + "-" + std::to_string(number) + "-";
+  std::replace(file.begin(), file.end(), '/', '.');
   for (const char c : words) {
     const bool isPlain = std::isalnum(static_cast<unsigned char>(c)) != 0;
     if (isPlain) {
