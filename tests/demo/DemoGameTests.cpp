@@ -1,4 +1,5 @@
 // The demo game: what it offers to play with is good, and what it offers to check is faulty.
+#include <algorithm>
 #include <filesystem>
 #include <string>
 
@@ -77,9 +78,9 @@ TEST_F(DemoGame, LinesEndAsTheGameWritesThem) {
   for (const char* file : {"\\tracks\\hill.trk", "\\tracks\\broken.trk", "\\highscore.cfg",
                            "\\Skidrun.cfg", "\\vehicles\\Hornet\\Hornet.vhc"}) {
     const std::string text = machine.files.Text(Game + file);
-    for (size_t i = 0; i < text.size(); i++) {
-      if (text[i] == '\n') EXPECT_TRUE(i > 0 && text[i - 1] == '\r') << file;
-    }
+    const auto lines = std::count(text.begin(), text.end(), '\n');
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), lines) << file;
+    EXPECT_EQ(text.find("\n\r"), std::string::npos) << file;
     EXPECT_TRUE(text.ends_with("\r\n")) << file;
   }
 }
