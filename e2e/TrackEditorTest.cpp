@@ -1,4 +1,5 @@
 // A track built part by part, with the keyboard alone.
+#include "e2e/driver/Accessibility.h"
 #include "e2e/driver/PackTest.h"
 
 namespace E2e {
@@ -18,14 +19,14 @@ TEST_F(TrackEditor, TwoPartsInTheRain) {
   pack.ChooseFile("Race");
   const Window editor = pack.WaitForWindow(EditorTitle);
 
-  pack.Press("Ctrl+Shift+N");
+  pack.Press("Alt+P");
   pack.WaitForWindow(PartTitle);
   pack.TabTo("Length:");
   pack.Type("12000");
   pack.Press("Enter");
   pack.WaitForWindow(EditorTitle);
 
-  pack.Press("Alt+P");
+  pack.Press("Ctrl+Shift+N");
   const Window part = pack.WaitForWindow(PartTitle);
   EXPECT_EQ(part.control("Length:").text(), "");
   EXPECT_EQ(part.control("Curve:").selectedRow(), "Straight");
@@ -42,6 +43,9 @@ TEST_F(TrackEditor, TwoPartsInTheRain) {
   EXPECT_EQ(editor.control("Track Viewer").rows(),
             (std::vector<std::string>{"Straight section on Asphalt for 12000 units.",
                                       "Easy Right section on Gravel for 7000 units."}));
+  EXPECT_THAT(BrokenRules(editor), testing::IsEmpty());
+  editor.WaitUntilDrawn();
+  SavePictureOf(editor.rectangle(), "Trackmaker with two parts");
 
   pack.Press("Alt+S");
   EXPECT_EQ(pack.AnswerBox("N"),
