@@ -1,6 +1,7 @@
 // What the benchmark programs can be told.
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 

@@ -12,7 +12,8 @@ inline constexpr int32_t InvalidSyntax = 3;  // no "=", an empty line too
 inline constexpr int32_t NonexistentSound = 4;
 inline constexpr int32_t SteeringFactorOutOfRange = -1;
 inline constexpr int32_t HasWipersOutOfRange = -2;
-inline constexpr int32_t Unreadable = -3;  // the file, or a number that does not fit 32 bits
+// The file, a number that does not fit 32 bits, or a line longer than LineReader::LongestLine.
+inline constexpr int32_t Unreadable = -3;
 }  // namespace VehicleFault
 
 // Checks a vehicle file line by line, in bounded memory. Changes nothing on disk.
@@ -24,6 +25,5 @@ inline constexpr int32_t Unreadable = -3;  // the file, or a number that does no
 //
 // Variables that are missing, occur twice or stand in another order are no fault. What follows a
 // second "=" in a line is ignored. An empty sound name stands for the folder itself, which exists.
-// The internal sounds car5 and car6 are taken for file names: the game does not have them in every
-// version.
+// The internal sounds car5 and car6, which the editor offers, are taken for file names here.
 int32_t CheckVehicleFile(const std::string& path, int32_t& code, std::string& message);

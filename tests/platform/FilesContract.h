@@ -79,6 +79,19 @@ TEST_F(FilesContract, AFileAndAFolderExist) {
   EXPECT_FALSE(FileExists(""));
 }
 
+TEST_F(FilesContract, APathIsFollowedWhereverItsWordsLead) {
+  TestMachine::PutFile(In("hill.trk"), "");
+  EXPECT_TRUE(FileExists(folder + "\\"));
+  EXPECT_FALSE(FileExists(In("hill.trk\\")));
+  EXPECT_TRUE(FileExists(In(".")));
+  EXPECT_TRUE(FileExists(In("..")));
+  EXPECT_TRUE(FileExists(In("nowhere\\..\\hill.trk")));
+  EXPECT_TRUE(FileExists(In("\\hill.trk")));
+  EXPECT_TRUE(FileExists(In("hill.trk ")));
+  EXPECT_TRUE(FileExists(In("hill.trk . ")));
+  EXPECT_FALSE(FileExists(In(" hill.trk")));
+}
+
 TEST_F(FilesContract, AHeldFileExists) {
   TestMachine::PutFile(In("hill.trk"), "1");
   TestMachine::Hold(In("hill.trk"), Sharing::WithNobody);
@@ -89,6 +102,7 @@ TEST_F(FilesContract, WhatNoNameCanHoldDoesNotExist) {
   EXPECT_FALSE(FileExists(In("hill?.trk")));
   EXPECT_FALSE(FileExists(In("*")));
   EXPECT_FALSE(FileExists(In(std::string(300, 'a'))));
+  EXPECT_FALSE(FileExists(folder + '\0'));
   EXPECT_FALSE(StampOf(In("*")));
 }
 
