@@ -1,7 +1,5 @@
 #include "platform/win32/FormWindow.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -120,9 +118,7 @@ void FormView::Native::MakeControls() {
     if (control->kind() == Control::Kind::TextBox) child.ShowText();
     if (control->kind() == Control::Kind::ListBox) {
       const auto& list = static_cast<const ListBox&>(*control);
-      SendMessageA(child.window(), WM_SETREDRAW, FALSE, 0);
       for (int i = 0; i < list.count(); ++i) child.AddRow(list.row(i), *font_);
-      SendMessageA(child.window(), WM_SETREDRAW, TRUE, 0);
       child.ShowSelection();
     }
     before = control;
@@ -233,6 +229,9 @@ LRESULT CALLBACK FormView::Native::WindowProc(HWND window, UINT message, WPARAM 
 std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND: Command(wParam, lParam); return 0;
+    case ControlWindow::RowsWait:
+      for (ControlWindow& child : controls_) child.DrawRows();
+      return 0;
     case WM_CLOSE: form_.CloseRequested(); return 0;
     case WM_ACTIVATE:
       if (LOWORD(wParam) == WA_INACTIVE || HIWORD(wParam)) return std::nullopt;
