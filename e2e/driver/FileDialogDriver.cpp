@@ -39,11 +39,22 @@ std::string FileDialogDriver::fileType() const {
 }
 
 void FileDialogDriver::Choose(const std::string& name) {
+  const Window box = WaitForNameBox();
+  box.Ask(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+  Keyboard::Press("Enter");
+}
+
+void FileDialogDriver::Choose(const std::wstring& name) {
+  const Window box = WaitForNameBox();
+  SendMessageW(box.handle(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+  Keyboard::Press("Enter");
+}
+
+Window FileDialogDriver::WaitForNameBox() const {
   const auto box = NameBox(dialog_);
   if (!box) throw std::runtime_error("no file dialog: " + dialog_.text());
   WaitUntil("the focus on the file name", [&] { return dialog_.focus() == box; });
-  box->Ask(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
-  Keyboard::Press("Enter");
+  return *box;
 }
 
 void FileDialogDriver::Cancel() {

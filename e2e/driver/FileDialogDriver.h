@@ -20,9 +20,13 @@ class FileDialogDriver {
 
   // Fills in a name, or a path, and presses Enter. A name alone means the folder that is shown.
   void Choose(const std::string& name);
+  // The same for a name that the system code page may not have.
+  void Choose(const std::wstring& name);
   void Cancel();
 
  private:
+  Window WaitForNameBox() const;
+
   Window dialog_;
 };
 
