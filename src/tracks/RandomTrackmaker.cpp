@@ -7,6 +7,7 @@
 #include "base/SharedTexts.h"
 #include "base/Text.h"
 #include "platform/InputBox.h"
+#include "platform/LetterCase.h"
 #include "platform/MsgBox.h"
 #include "platform/Numbers.h"
 #include "platform/RandomRange.h"
@@ -56,7 +57,7 @@ std::optional<int32_t> AskForPartCount() {
 }  // namespace
 
 void RandomTrack() {
-  std::string path = Text::LowerAscii(TrackQuestions::ChooseTrackFileToWrite(
+  std::string path = Platform::LowerCase(TrackQuestions::ChooseTrackFileToWrite(
       TrackTexts.RTMAbortedNoFileText, TrackTexts.RTMAbortedNoFileTitle));
   if (path.empty()) return;
   // Such tracks are known to the game by their name.

@@ -10,6 +10,7 @@
 #include "platform/FileLines.h"
 #include "platform/Numbers.h"
 #include "text/StringTable.h"
+#include "tracks/TrackFormat.h"
 #include "tracks/TrackTexts.h"
 
 namespace {
@@ -24,9 +25,9 @@ struct Range {
 };
 
 constexpr int32_t EndMarker = -1;
-constexpr Range CurveRange{0, 12};
-constexpr Range SurfaceRange{0, 3};
-constexpr Range LengthRange{5000, std::numeric_limits<int32_t>::max()};
+constexpr Range CurveRange{0, TrackFormat::Curves.size() - 1};
+constexpr Range SurfaceRange{0, TrackFormat::Surfaces.size() - 1};
+constexpr Range LengthRange{TrackFormat::ShortestPart, std::numeric_limits<int32_t>::max()};
 constexpr Range WeatherRange{0, 1};
 constexpr Range Ranges[] = {
     {}, CurveRange, SurfaceRange, LengthRange, {EndMarker, EndMarker}, WeatherRange};

@@ -1,5 +1,5 @@
-// What every machine promises of the small services: the program's own file, the clock, the named
-// mutex, the sound device. Included once by each machine's tests.
+// What every machine promises of the small services: the program's own file, the clock, letter
+// case, the named mutex, the sound device. Included once by each machine's tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,6 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/Executable.h"
 #include "platform/Forms.h"
+#include "platform/LetterCase.h"
 #include "platform/NamedMutex.h"
 #include "platform/Sound.h"
 #include "tests/platform/TestMachine.h"
@@ -40,6 +41,14 @@ TEST_F(SystemContract, TheClockTellsTheSecondsOfTheDay) {
   }
   const bool isPastMidnight = second < 60 && first > 23 * 60 * 60;
   EXPECT_TRUE(second >= first || isPastMidnight);
+}
+
+TEST_F(SystemContract, CapitalLettersBecomeSmallOnesBeyondAsciiToo) {
+  EXPECT_EQ(Platform::LowerCase(""), "");
+  EXPECT_EQ(Platform::LowerCase("C:\\Tracks\\HILL [1] @Z_09.Trk"),
+            "c:\\tracks\\hill [1] @z_09.trk");
+  EXPECT_EQ(Platform::LowerCase("\xC4RGER \xC9T\xC9 \xD1 \xD7 \xDF \xE4"),
+            "\xE4rger \xE9t\xE9 \xF1 \xD7 \xDF \xE4");
 }
 
 TEST_F(SystemContract, AMutexIsHeldAndMayBeHeldTwice) {

@@ -80,7 +80,9 @@ TEST_F(RandomTrackStory, TheNameIsLoweredAndGetsItsExtension) {
   MakesTrackOf("C:\\Games\\Skidrun2\\Tracks\\HILL.TRK", "1");
   MakesTrackOf("River", "1");
   MakesTrackOf("Race.Txt", "1");
-  EXPECT_EQ(machine.files.Names(Tracks), Names("hill.trk", "race.txt.trk", "river.trk"));
+  MakesTrackOf("\xC4RGER", "1");
+  EXPECT_EQ(machine.files.Names(Tracks),
+            Names("hill.trk", "race.txt.trk", "river.trk", "\xE4rger.trk"));
 }
 
 TEST_F(RandomTrackStory, AnAdventureIsPrefixedInItsNameAndNotInItsFolder) {
