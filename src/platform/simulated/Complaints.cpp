@@ -7,14 +7,16 @@
 namespace Simulated {
 
 namespace {
-std::function<void(const std::string&)>& Handler() {
-  static std::function<void(const std::string&)> handler;
+
+ComplaintHandler& Handler() {
+  static ComplaintHandler handler;
   return handler;
 }
+
 }  // namespace
 
-void OnComplaint(std::function<void(const std::string&)> handler) {
-  Handler() = std::move(handler);
+ComplaintHandler OnComplaint(ComplaintHandler handler) {
+  return std::exchange(Handler(), std::move(handler));
 }
 
 void Complain(const std::string& what) {

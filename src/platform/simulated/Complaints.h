@@ -7,9 +7,11 @@
 
 namespace Simulated {
 
+using ComplaintHandler = std::function<void(const std::string&)>;
+
 // Sets who hears the complaints, for all machines; the tests make each a failure. Without anybody
-// to hear it, a complaint ends the process.
-void OnComplaint(std::function<void(const std::string&)> handler);
+// to hear it, a complaint ends the process. Returns who heard them before.
+ComplaintHandler OnComplaint(ComplaintHandler handler);
 
 void Complain(const std::string& what);
 

@@ -160,9 +160,9 @@ DiskEntry* Disk::Find(const std::string& path) {
 }
 
 DiskEntry& Disk::Make(const std::string& path) {
-  std::unique_ptr<DiskEntry>& entry = entries_[KeyOf(path)];
+  std::shared_ptr<DiskEntry>& entry = entries_[KeyOf(path)];
   if (!entry) {
-    entry = std::make_unique<DiskEntry>();
+    entry = std::make_shared<DiskEntry>();
     entry->path = path;
     Written(*entry);
   }

@@ -20,7 +20,7 @@ namespace Simulated {
 enum Attribute { NoAttributes = 0, ReadOnly = 1, Hidden = 2, System = 4 };
 
 // A file or folder of the disk.
-struct DiskEntry {
+struct DiskEntry : std::enable_shared_from_this<DiskEntry> {
   std::string path;  // as it was made, letter case kept
   bool isFolder = false;
   std::string bytes;
@@ -94,7 +94,7 @@ class Disk {
  private:
   DiskEntry& MustFind(const std::string& path);
 
-  std::map<std::string, std::unique_ptr<DiskEntry>> entries_;  // by path in lower case
+  std::map<std::string, std::shared_ptr<DiskEntry>> entries_;  // by path in lower case
   uint64_t writes_ = 0;
   size_t largestRead_ = SIZE_MAX;
   int writesLeft_ = 0;

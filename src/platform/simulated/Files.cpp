@@ -135,13 +135,14 @@ bool RemoveFile(const std::string& path) {
 }
 
 struct FileReader::Open {
-  explicit Open(DiskEntry& entry) : file(entry) {
+  explicit Open(DiskEntry& entry) : kept(entry.shared_from_this()), file(entry) {
     if (!file.hostPath.empty()) hostFile.open(file.hostPath, std::ios::binary);
     ++file.readers;
   }
   ~Open() { --file.readers; }
 
-  DiskEntry& file;  // stays: an open file cannot be deleted
+  std::shared_ptr<DiskEntry> kept;  // a reader may outlive the machine, which then complains
+  DiskEntry& file;
   std::ifstream hostFile;
   size_t position = 0;
 };
