@@ -54,6 +54,46 @@ TEST_F(UserStory, WalksAroundWithTabAndAccessKeys) {
   EXPECT_EQ(user.Hears(), "Address, edit, Alt+A");
 }
 
+TEST_F(UserStory, PressesKeysThatTypeCharacters) {
+  servers.Address.Focus();
+  for (const char* key : {"A", "Shift+B", "7", "Space", "Ctrl+N"}) user.Presses(key);
+  EXPECT_EQ(servers.Address.text(), "aB7 ");
+}
+
+TEST_F(UserStory, CopiesAndPastes) {
+  servers.Address.SetText("hill");
+  user.Presses("Tab");
+  user.Presses("Ctrl+X");
+  EXPECT_EQ(user.Clipboard(), "hill");
+  EXPECT_EQ(user.Hears(), "Address, edit, Alt+A");
+  user.Presses("Ctrl+V");
+  user.Presses("Ctrl+V");
+  EXPECT_EQ(user.Hears(), "Address, edit, hillhill, Alt+A");
+  user.Presses("Shift+Home");
+  EXPECT_EQ(user.SelectedText(), "hillhill");
+}
+
+TEST_F(UserStory, WorksABoxByKeyboard) {
+  user.WhenWindowOpens("Delete", [this] {
+    EXPECT_EQ(user.SeesWindow(), "Delete");
+    user.Presses("Tab");
+    user.Presses("Enter");
+  });
+  EXPECT_EQ(MsgBox("Really?", "Delete", Icon::Question, Buttons::YesNoDefaultNo), Answer::Yes);
+}
+
+TEST_F(UserStory, HearsTheWholeWindowWhenItOpens) {
+  class Explained final : public Form {
+   public:
+    Explained() : Form(FixedText("Servers")) {}
+    Label Why{*this, {.text = FixedText("Choose where to play.")}};
+    Button Submit{*this, {.text = FixedText("OK"), .isDefault = true}};
+  } explained;
+  explained.Show();
+  EXPECT_THAT(user.HearsOnOpening(),
+              testing::ElementsAre("Servers", "Choose where to play.", "OK, button"));
+}
+
 TEST_F(UserStory, PressesTheDefaultAndTheCancelButton) {
   user.Presses("Enter");
   user.Presses("Escape");

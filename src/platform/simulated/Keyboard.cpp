@@ -55,6 +55,17 @@ KeyEvent KeyNamed(std::string name) {
   return key;
 }
 
+// The character that a key types; NUL if it types none.
+char CharacterOf(const KeyEvent& key) {
+  if (key.shift & (Shift::Ctrl | Shift::Alt)) return 0;
+  const bool isShifted = key.shift & Shift::Shift;
+  if (key.code >= 'A' && key.code <= 'Z') {
+    return static_cast<char>(isShifted ? key.code : std::tolower(key.code));
+  }
+  if (key.code >= '0' && key.code <= '9' && !isShifted) return static_cast<char>(key.code);
+  return key.code == Key::Space ? ' ' : '\0';
+}
+
 // The key on which a character stands.
 KeyEvent KeyOf(char character) {
   const int code = static_cast<unsigned char>(character);
@@ -122,8 +133,21 @@ bool PressAccessKey(Form& form, int code) {
   return false;
 }
 
-void PressInList(ListBox& list, const KeyEvent& key) {
+// A letter moves to the next row that begins with it.
+void TypeInList(ListBox& list, char character) {
+  const int letter = std::tolower(static_cast<unsigned char>(character));
+  for (int step = 1; step <= list.count(); ++step) {
+    const int row = (list.selected() + step) % list.count();
+    const std::string& text = list.row(row);
+    if (!text.empty() && std::tolower(static_cast<unsigned char>(text[0])) == letter) {
+      return list.Selected(row);
+    }
+  }
+}
+
+void PressInList(ListBox& list, const KeyEvent& key, char character) {
   if (list.count() == 0) return;
+  if (character) return TypeInList(list, character);
   const int last = list.count() - 1;
   int row = list.selected();
   switch (key.code) {
@@ -140,31 +164,27 @@ void PressInList(ListBox& list, const KeyEvent& key) {
   list.Selected(std::clamp(row, 0, last));
 }
 
-// A letter moves to the next row that begins with it.
-void TypeInList(ListBox& list, char character) {
-  const int letter = std::tolower(static_cast<unsigned char>(character));
-  for (int step = 1; step <= list.count(); ++step) {
-    const int row = (list.selected() + step) % list.count();
-    const std::string& text = list.row(row);
-    if (!text.empty() && std::tolower(static_cast<unsigned char>(text[0])) == letter) {
-      return list.Selected(row);
-    }
-  }
-}
-
 }  // namespace
 
 void Keyboard::Press(const std::string& name) {
   const KeyEvent key = KeyNamed(name);
-  if (OpenBox* box = TheMachine().screen.BoxInUse()) return box->Press(key);
-  Form* form = ActiveForm();
-  if (!form) return Complain("there is no window to press " + name + " in");
-  if (menu_.IsOpen()) return menu_.Press(key);
-  if (form->KeyDown(key) || ActiveForm() != form) return;
-  PressInDialog(*form, key);
+  Send(key, CharacterOf(key));
 }
 
-void Keyboard::PressInDialog(Form& form, const KeyEvent& key) {
+void Keyboard::Type(const std::string& text) {
+  for (const char character : text) Send(KeyOf(character), character);
+}
+
+void Keyboard::Send(const KeyEvent& key, char character) {
+  if (OpenBox* box = TheMachine().screen.BoxInUse()) return box->Press(key);
+  Form* form = ActiveForm();
+  if (!form) return Complain("there is no window for a key");
+  if (menu_.IsOpen()) return menu_.Press(key);
+  if (form->KeyDown(key) || ActiveForm() != form) return;
+  PressInDialog(*form, key, character);
+}
+
+void Keyboard::PressInDialog(Form& form, const KeyEvent& key, char character) {
   if (key.shift == Shift::Alt && key.code == Key::F4) return form.CloseRequested();
   if (key.shift == Shift::Alt && key.code >= '0' && key.code <= 'Z') {
     if (!PressAccessKey(form, key.code)) menu_.Open(form, key.code);
@@ -182,8 +202,9 @@ void Keyboard::PressInDialog(Form& form, const KeyEvent& key) {
   Control* focus = form.focus();
   if (!focus) return;
   switch (focus->kind()) {
-    case Control::Kind::TextBox: return PressInTextBox(static_cast<TextBox&>(*focus), key);
-    case Control::Kind::ListBox: return PressInList(static_cast<ListBox&>(*focus), key);
+    case Control::Kind::TextBox:
+      return PressInTextBox(static_cast<TextBox&>(*focus), key, character);
+    case Control::Kind::ListBox: return PressInList(static_cast<ListBox&>(*focus), key, character);
     case Control::Kind::Button:
       if (key.code == Key::Space) static_cast<Button*>(focus)->Click();
       return;
@@ -191,8 +212,9 @@ void Keyboard::PressInDialog(Form& form, const KeyEvent& key) {
   }
 }
 
-void Keyboard::PressInTextBox(TextBox& box, const KeyEvent& key) {
+void Keyboard::PressInTextBox(TextBox& box, const KeyEvent& key, char character) {
   const TextSelection selection = SelectionIn(box);
+  if (character) return Replace(box, selection, std::string(1, character));
   const bool isEmpty = selection.begin() == selection.end();
   const size_t size = box.text().size();
   if (key.shift == Shift::Ctrl && key.code >= 'A' && key.code <= 'Z') {
@@ -218,28 +240,6 @@ void Keyboard::PressInTextBox(TextBox& box, const KeyEvent& key) {
     case Key::Delete:
       return Replace(box, isEmpty ? TextSelection{selection.caret, behind} : selection, "");
     default: return;
-  }
-}
-
-void Keyboard::Type(const std::string& text) {
-  for (const char character : text) {
-    Form* form = ActiveForm();
-    if (!form) return Complain("there is no window to type in");
-    if (menu_.IsOpen()) {
-      menu_.Press(KeyOf(character));
-      continue;
-    }
-    if (form->KeyDown(KeyOf(character)) || ActiveForm() != form) continue;
-    Control* focus = form->focus();
-    if (!focus) continue;
-    if (focus->kind() == Control::Kind::TextBox) {
-      auto& box = static_cast<TextBox&>(*focus);
-      Replace(box, SelectionIn(box), std::string(1, character));
-    } else if (focus->kind() == Control::Kind::ListBox) {
-      TypeInList(static_cast<ListBox&>(*focus), character);
-    } else if (character == ' ' && focus->kind() == Control::Kind::Button) {
-      static_cast<Button*>(focus)->Click();
-    }
   }
 }
 

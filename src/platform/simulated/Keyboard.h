@@ -21,9 +21,11 @@ class Keyboard {
   const MenuWalk& menu() const { return menu_; }
 
  private:
+  // A key, and the character that it types, or NUL: to a box, an open menu, or the window in use.
+  void Send(const Platform::KeyEvent& key, char character);
   // A key that the window itself did not use.
-  void PressInDialog(Platform::Form& form, const Platform::KeyEvent& key);
-  void PressInTextBox(Platform::TextBox& box, const Platform::KeyEvent& key);
+  void PressInDialog(Platform::Form& form, const Platform::KeyEvent& key, char character);
+  void PressInTextBox(Platform::TextBox& box, const Platform::KeyEvent& key, char character);
 
   std::string clipboard_;
   MenuWalk menu_;

@@ -18,8 +18,13 @@ using Platform::WithoutAccessKey;
 
 namespace {
 
-// The window in use, which must be there.
+// The window in use, which must be there, and no box over it.
 Form* WindowInUse(const std::string& whatFor) {
+  const Screen& screen = TheMachine().screen;
+  if (screen.BoxInUse() || !screen.dialogs.empty()) {
+    Complain("a box is before the window to " + whatFor);
+    return nullptr;
+  }
   Form* form = ActiveForm();
   if (!form) Complain("there is no window to " + whatFor);
   return form;
