@@ -83,12 +83,14 @@ void SetImmutable(const std::string& folder, bool isImmutable) {
   const auto getHostName = reinterpret_cast<GetHostName>(reinterpret_cast<void*>(
       GetProcAddress(GetModuleHandleA("kernel32"), "wine_get_unix_file_name")));
   if (!getHostName) return;
-  const std::wstring wide(folder.begin(), folder.end());
-  char* const hostName = getHostName(wide.c_str());
+  char* const hostName = getHostName(std::wstring(folder.begin(), folder.end()).c_str());
   if (!hostName) return;
-  std::string command = std::string("\"Z:\\usr\\bin\\chattr\" ") + (isImmutable ? "+i" : "-i") +
-                        " \"" + hostName + "\"";
+  const std::string name = std::string("'") + hostName + "'";
   HeapFree(GetProcessHeap(), 0, hostName);
+  // The system beneath gives no handle to wait for, so it leaves a mark when it is done.
+  const std::string mark = folder + ".done";
+  std::string command = "\"Z:\\bin\\sh\" -c \"chattr " + std::string(isImmutable ? "+i " : "-i ") +
+                        name + "; touch " + name + ".done\"";
   STARTUPINFOA start{};
   start.cb = sizeof start;
   PROCESS_INFORMATION process{};
@@ -98,9 +100,9 @@ void SetImmutable(const std::string& folder, bool isImmutable) {
   }
   if (process.hProcess) CloseHandle(process.hProcess);
   if (process.hThread) CloseHandle(process.hThread);
-  // The system beneath gives no handle to wait for.
-  const ULONGLONG deadline = GetTickCount64() + 5000;
-  while (TakesNewFiles(folder) == isImmutable && GetTickCount64() < deadline) SwitchToThread();
+  constexpr ULONGLONG PatienceMs = 10000;
+  const ULONGLONG deadline = GetTickCount64() + PatienceMs;
+  while (!DeleteFileA(mark.c_str()) && GetTickCount64() < deadline) SwitchToThread();
 }
 
 std::vector<std::string>& Refusing() {

@@ -21,7 +21,8 @@ RuntimeError::Number NumberOf(DWORD error) {
     case ERROR_PATH_NOT_FOUND:
     case ERROR_BAD_NETPATH:
     case ERROR_BAD_NET_NAME:
-    case ERROR_INVALID_DRIVE: return RuntimeError::PathNotFound;
+    case ERROR_INVALID_DRIVE:
+    case ERROR_DIRECTORY: return RuntimeError::PathNotFound;
     case ERROR_ACCESS_DENIED:
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:
@@ -46,7 +47,6 @@ void FailWith(DWORD error, const std::string& path, Access access) {
   switch (error) {
     case ERROR_INVALID_NAME:
     case ERROR_BAD_PATHNAME:
-    case ERROR_DIRECTORY:
     case ERROR_FILENAME_EXCED_RANGE: throw NameNotUsable(path);
     default: break;
   }

@@ -24,22 +24,36 @@ class TemporaryFile {
       std::snprintf(name, sizeof name, "\\~%06lx.tmp", ++number & 0xFFFFFF);
       file_ = OpenFile(folder + name, GENERIC_READ | GENERIC_WRITE | DELETE, 0, CREATE_NEW);
     } while (file_.error() == ERROR_FILE_EXISTS || file_.error() == ERROR_ALREADY_EXISTS);
-    if (file_.IsOpen()) Vanishes(true);
+    if (file_.IsOpen()) doesVanish_ = SetVanishing(true);
   }
-  TemporaryFile(TemporaryFile&&) = default;
-  TemporaryFile& operator=(TemporaryFile&&) = default;
+  TemporaryFile(TemporaryFile&&) noexcept = default;
+  TemporaryFile& operator=(TemporaryFile&&) noexcept = default;
+  ~TemporaryFile() {
+    if (!file_.IsOpen()) return;
+    const std::string path = file_.path();
+    file_ = OpenFile();
+    // Not every disk lets a file vanish by itself.
+    if (!doesVanish_) DeleteFileA(path.c_str());
+  }
 
   OpenFile& file() { return file_; }
 
-  // Flushes and closes the file, which stays under its name from now on.
+  // Flushes and closes the file, which stays under its name from now on. If that fails, it is gone.
   void Keep() {
     file_.Flush();
-    if (!Vanishes(false)) FailWith(GetLastError(), file_.path(), Access::Writing);
-    file_.Close();
+    if (doesVanish_ && !SetVanishing(false)) {
+      FailWith(GetLastError(), file_.path(), Access::Writing);
+    }
+    try {
+      file_.Close();
+    } catch (const RuntimeError&) {
+      DeleteFileA(file_.path().c_str());
+      throw;
+    }
   }
 
  private:
-  bool Vanishes(bool doesVanish) {
+  bool SetVanishing(bool doesVanish) {
     FILE_DISPOSITION_INFO disposition{};
     disposition.DeleteFile = doesVanish;
     return SetFileInformationByHandle(file_.get(), FileDispositionInfo, &disposition,
@@ -47,6 +61,7 @@ class TemporaryFile {
   }
 
   OpenFile file_;
+  bool doesVanish_ = false;
 };
 
 std::string SystemTemporaryFolder() {
@@ -111,17 +126,26 @@ struct FileWriter::Open {
     const DWORD attributes = GetFileAttributesA(path.c_str());
     temporary.Keep();
     const std::string& name = temporary.file().path();
-    if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesA(name.c_str(), attributes);
+    DWORD error = ERROR_SUCCESS;
+    if (attributes != INVALID_FILE_ATTRIBUTES &&
+        !SetFileAttributesA(name.c_str(), attributes & Settable)) {
+      error = GetLastError();
+    }
     const auto replace = [&]() -> DWORD {
       const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
       return MoveFileExA(name.c_str(), path.c_str(), how) ? ERROR_SUCCESS : GetLastError();
     };
-    const DWORD error = TryWhileInUse(replace, IsInUseForReplacing);
+    if (error == ERROR_SUCCESS) error = TryWhileInUse(replace, IsInUseForReplacing);
     if (error == ERROR_SUCCESS) return;
     SetFileAttributesA(name.c_str(), FILE_ATTRIBUTE_NORMAL);
     DeleteFileA(name.c_str());
     FailWith(error, path, Access::Writing);
   }
+
+  // The attributes that a program may give to a file.
+  static constexpr DWORD Settable = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
+                                    FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
+                                    FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 };
 
 FileWriter::FileWriter(const std::string& path) {

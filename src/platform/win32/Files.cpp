@@ -53,6 +53,7 @@ void WriteWholeFile(const std::string& path, std::string_view bytes) {
 void AppendToFile(const std::string& path, std::string_view bytes) {
   CheckName(path);
   OpenFile file;
+  bool isNew = false;
   const DWORD error = TryWhileInUse([&] {
     // A write-protected file or a folder will not change by waiting.
     const DWORD attributes = GetFileAttributesA(path.c_str());
@@ -60,6 +61,7 @@ void AppendToFile(const std::string& path, std::string_view bytes) {
         (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))) {
       throw RuntimeError(RuntimeError::PathFileAccess, path);
     }
+    isNew = attributes == INVALID_FILE_ATTRIBUTES;
     file = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
     return file.error();
   });
@@ -73,7 +75,13 @@ void AppendToFile(const std::string& path, std::string_view bytes) {
       WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
   if (isWritten && count == bytes.size()) return file.Close();
   const DWORD failure = isWritten ? ERROR_DISK_FULL : GetLastError();
-  file.SetLength(length);
+  try {
+    file.SetLength(length);
+    file.Close();
+  } catch (const RuntimeError&) {
+    // What the user is told is the first failure.
+  }
+  if (isNew) DeleteFileA(path.c_str());
   FailWith(failure, path, Access::Writing);
 }
 

@@ -59,15 +59,15 @@ FormView::Native::Native(Form& form) : form_(form), isDialog_(!form.controls().e
     MakeWindow();
   }
   if (!window_) throw RuntimeError(RuntimeError::DeviceError);
-  Windows()[window_] = this;
-  SendMessageA(window_, WM_SETICON, ICON_BIG,
-               reinterpret_cast<LPARAM>(LoadProgramIcon(SM_CXICON, SM_CYICON)));
-  SendMessageA(window_, WM_SETICON, ICON_SMALL,
-               reinterpret_cast<LPARAM>(LoadProgramIcon(SM_CXSMICON, SM_CYSMICON)));
-  ShowTitle();
-  ShowMenu();
-  font_ = std::make_unique<Display::Font>(Display::DpiOf(window_));
   try {
+    Windows()[window_] = this;
+    SendMessageA(window_, WM_SETICON, ICON_BIG,
+                 reinterpret_cast<LPARAM>(LoadProgramIcon(SM_CXICON, SM_CYICON)));
+    SendMessageA(window_, WM_SETICON, ICON_SMALL,
+                 reinterpret_cast<LPARAM>(LoadProgramIcon(SM_CXSMICON, SM_CYSMICON)));
+    ShowTitle();
+    ShowMenu();
+    font_ = std::make_unique<Display::Font>(Display::DpiOf(window_));
     MakeControls();
   } catch (...) {
     Windows().erase(window_);
@@ -115,7 +115,7 @@ void FormView::Native::MakeControls() {
     controls_.emplace_back(window_, *control, IdOf(*control, controls_.size()), !isNextButton);
     ControlWindow& child = controls_.back();
     child.SetFont(*font_);
-    if (control->kind() == Control::Kind::TextBox) child.ShowText();
+    if (control->kind() == Control::Kind::TextBox) ShowText(static_cast<TextBox&>(*control));
     if (control->kind() == Control::Kind::ListBox) {
       const auto& list = static_cast<const ListBox&>(*control);
       for (int i = 0; i < list.count(); ++i) child.AddRow(list.row(i), *font_);
@@ -179,6 +179,7 @@ void FormView::Native::MoveFocus() {
 }
 
 void FormView::Native::RestoreFocus() {
+  if (!IsWindowEnabled(window_)) return;  // a window over it has the focus
   const bool isMoved = std::exchange(isFocusMoved_, false);
   Control* const focus = form_.focus();
   if (!focus) {
@@ -258,6 +259,10 @@ std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPA
       LayOutAgain();
       return 0;
     }
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      return std::nullopt;
     case WM_SETTINGCHANGE:
       if (wParam != SPI_SETNONCLIENTMETRICS) return std::nullopt;
       ChangeFont(Display::DpiOf(window_));

@@ -21,7 +21,7 @@ void Handle(MSG& message) {
     if (form->KeyDown(message)) {
       // The system must learn that Alt was not pressed alone: it would open the menu at its
       // release.
-      if (message.message == WM_SYSKEYDOWN && message.wParam != VK_F4) {
+      if (message.message == WM_SYSKEYDOWN && message.wParam != VK_F4 && message.wParam != VK_F10) {
         DefWindowProcA(window, message.message, message.wParam, message.lParam);
       }
       return;
