@@ -89,7 +89,15 @@ TEST_F(NumbersContract, SkipsThousandsSeparatorsWhereverTheyStand) {
 }
 
 TEST_F(NumbersContract, TakesHexadecimalAndOctalDigits) {
-  ExpectValues({{"&H10", 16}, {"&hFF", 255}, {"&O17", 15}});
+  ExpectValues({{"&H10", 16},
+                {"&hFF", 255},
+                {"&O17", 15},
+                {"&HFFFF", 65535},
+                {"&H7FFFFFFF", 2147483647},
+                {"&H10e1", 4321},
+                {"(&H10)", 16},
+                {"-&H10", 16},
+                {"&H10-", 16}});
 }
 
 TEST_F(NumbersContract, TakesADoublesRange) {
@@ -99,9 +107,9 @@ TEST_F(NumbersContract, TakesADoublesRange) {
 }
 
 TEST_F(NumbersContract, RefusesWhatIsNoNumber) {
-  ExpectNoNumbers({"",     " ",   "abc",      ",1",  ",5",    "1e",  "1e+", "1e 3", "1d3",
-                   "0x10", "1 2", "infinity", "nan", "1.5.5", "--1", "-",   "+",    ".",
-                   "&",    "&H",  "1%",       "1&",  "1#",    "1!",  "1;",  "one",  "1.e"});
+  ExpectNoNumbers({"",    " ",        "abc",   ",1",    ",5",  "1e", "1e+", "1e 3", "1d3", "0x10",
+                   "1 2", "infinity", "nan",   "1.5.5", "--1", "-",  "+",   ".",    "&",   "&H",
+                   "&HG", "&O8",      "&H10)", "1%",    "1&",  "1#", "1!",  "1;",   "one", "1.e"});
 }
 
 TEST_F(NumbersContract, ANulIsNoNumber) {

@@ -119,7 +119,10 @@ class NumberScanner {
     if (!IsAtEnd()) return std::nullopt;
     errno = 0;
     const unsigned long long value = std::strtoull(number.c_str(), nullptr, radix);
-    if (errno != 0 || value > std::numeric_limits<int32_t>::max()) return Infinite;
+    // They stand for 32 bits with a sign; but only the lowest of the negative numbers is taken.
+    constexpr unsigned long long SignBit = 0x80000000;
+    if (errno != 0 || value > SignBit) return Infinite;
+    if (value == SignBit) return -static_cast<double>(value);
     return static_cast<double>(value);  // whatever sign stands beside it
   }
 
