@@ -98,8 +98,11 @@ void SetImmutable(const std::string& folder, bool isImmutable) {
                       &process)) {
     return;
   }
-  if (process.hProcess) CloseHandle(process.hProcess);
-  if (process.hThread) CloseHandle(process.hThread);
+  // A program of the system beneath has no process here, and what is told of its thread is noise.
+  if (process.hProcess) {
+    CloseHandle(process.hProcess);
+    CloseHandle(process.hThread);
+  }
   constexpr ULONGLONG PatienceMs = 10000;
   const ULONGLONG deadline = GetTickCount64() + PatienceMs;
   while (!DeleteFileA(mark.c_str()) && GetTickCount64() < deadline) SwitchToThread();
