@@ -1,6 +1,5 @@
 #include "e2e/driver/Window.h"
 
-#include <algorithm>
 #include <cctype>
 #include <stdexcept>
 
@@ -9,15 +8,9 @@
 namespace E2e {
 namespace {
 
-std::string NarrowRow(const Window& list, LRESULT row, LRESULT length) {
-  std::string text(static_cast<size_t>(length) + 1, '\0');
-  const auto copied =
-      list.Ask(LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
-  text.resize(static_cast<size_t>(std::max<LRESULT>(copied.value_or(0), 0)));
-  return text;
-}
-
-std::string WideRow(HWND list, LRESULT row, LRESULT length) {
+// Asked in wide characters: between programs, Wine hands the row over in them whatever is asked
+// for.
+std::string RowOf(HWND list, LRESULT row, LRESULT length) {
   std::wstring text(static_cast<size_t>(length) + 1, L'\0');
   DWORD_PTR copied = 0;
   if (!SendMessageTimeoutW(list, LB_GETTEXT, static_cast<WPARAM>(row),
@@ -118,12 +111,9 @@ Window Window::control(const std::string& name) const {
 }
 
 std::vector<std::string> Window::rows() const {
-  // Between programs, Wine hands over the rows of a list as the list keeps them.
-  const bool isWide = IsWindowUnicode(handle_) != FALSE;
   std::vector<std::string> rows;
   for (LRESULT row = 0; row < Ask(LB_GETCOUNT).value_or(0); row++) {
-    const auto length = Ask(LB_GETTEXTLEN, static_cast<WPARAM>(row)).value_or(0);
-    rows.push_back(isWide ? WideRow(handle_, row, length) : NarrowRow(*this, row, length));
+    rows.push_back(RowOf(handle_, row, Ask(LB_GETTEXTLEN, static_cast<WPARAM>(row)).value_or(0)));
   }
   return rows;
 }
