@@ -3,7 +3,8 @@
 
 namespace Platform {
 
-// Seconds since midnight, local time, with their fraction.
+// Seconds since midnight, local time, with their fraction. It moves on in ticks of the system's
+// timer, some milliseconds each, and costs next to nothing to ask.
 double SecondsSinceMidnight();
 
 }  // namespace Platform
