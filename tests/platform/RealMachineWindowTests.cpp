@@ -1,0 +1,271 @@
+// What holds of native windows beside the contracts: what a screen reader and a magnifier find in
+// them, and that a window may go away in the middle of its own events.
+#include <gmock/gmock.h>
+
+#include "platform/Forms.h"
+#include "platform/win32/FormWindow.h"
+#include "tests/platform/RealMachine.h"
+#include "tests/platform/TestMachine.h"
+
+namespace {
+
+using namespace Platform;
+
+// A tool with all kinds of controls and captions as long as those of other languages.
+struct Tool : Form {
+  Tool() : Form(FixedText("Serververwaltung")) {}
+  Label Explanation{*this,
+                    {.text = FixedText("Choose the server that the game is to use. The "
+                                       "change is stored at once, and holds from the next "
+                                       "start of the game.")}};
+  ListBox Servers{*this, {.label = FixedText("&Servers")}};
+  TextBox Address{*this, {.label = FixedText("&Adresse oder Rechnername des Servers")}};
+  TextBox Notes{*this, {.label = FixedText("&Notes"), .isReadOnly = true, .isMultiline = true}};
+  Button AddToList{*this, {.text = FixedText("Zur Serverliste &hinzuf\xFCgen")}};
+  Button DeleteEntry{*this, {.text = FixedText("Eintrag aus der Liste &l\xF6schen")}};
+  Button Submit{*this, {.text = FixedText("OK"), .isDefault = true}};
+  Button Ccl{*this, {.text = FixedText("Cancel"), .isCancel = true}};
+};
+
+class WindowTest : public ContractTest {
+ protected:
+  WindowTest() { StartProgram(main); }
+
+  static std::vector<HWND> ChildrenOf(HWND window) {
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+      children.push_back(child);
+    }
+    return children;
+  }
+  static std::string ClassOf(HWND window) {
+    char name[64] = "";
+    GetClassNameA(window, name, sizeof name);
+    return name;
+  }
+  static std::string TextOf(HWND window) {
+    char text[512] = "";
+    GetWindowTextA(window, text, sizeof text);
+    return text;
+  }
+  static LONG_PTR StyleOf(HWND window) { return GetWindowLongPtrA(window, GWL_STYLE); }
+  static RECT PlaceOf(HWND child) {
+    RECT rect{};
+    GetWindowRect(child, &rect);
+    MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+  }
+
+  static int DefaultButtonsOf(HWND window) {
+    int count = 0;
+    for (const HWND child : ChildrenOf(window)) {
+      const LRESULT code = SendMessageA(child, WM_GETDLGCODE, 0, 0);
+      if (ClassOf(child) == "Button" && (code & DLGC_DEFPUSHBUTTON)) ++count;
+    }
+    return count;
+  }
+
+  // Every caption fits where it stands, in the font that its control draws with.
+  static void ExpectNothingCut(HWND window) {
+    for (const HWND child : ChildrenOf(window)) {
+      if (ClassOf(child) != "Static" && ClassOf(child) != "Button") continue;
+      RECT place{};
+      GetClientRect(child, &place);
+      RECT text = place;
+      const HDC context = GetDC(child);
+      const auto font = reinterpret_cast<HFONT>(SendMessageA(child, WM_GETFONT, 0, 0));
+      EXPECT_NE(font, nullptr);
+      const HGDIOBJ previous = SelectObject(context, font);
+      const UINT breaking = ClassOf(child) == "Static" ? DT_WORDBREAK : DT_SINGLELINE;
+      DrawTextA(context, TextOf(child).c_str(), -1, &text, DT_CALCRECT | breaking);
+      SelectObject(context, previous);
+      ReleaseDC(child, context);
+      EXPECT_LE(text.right, place.right) << TextOf(child);
+      EXPECT_LE(text.bottom, place.bottom) << TextOf(child);
+    }
+  }
+
+  static void ExpectReadingOrder(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    RECT before{};
+    for (const HWND child : ChildrenOf(window)) {
+      const RECT here = PlaceOf(child);
+      EXPECT_TRUE(here.top >= before.bottom || here.left >= before.right) << TextOf(child);
+      EXPECT_LE(here.right, client.right);
+      EXPECT_LE(here.bottom, client.bottom);
+      before = here;
+    }
+  }
+
+  Form main{FixedText("Main")};
+  Tool tool;
+};
+
+TEST_F(WindowTest, ToolsAreDialogsAndTheMainWindowKeepsTheFocusItself) {
+  EXPECT_EQ(ClassOf(WindowOf(main)), "SK2PackWindow");
+  EXPECT_EQ(GetFocus(), WindowOf(main));
+  tool.Show();
+  EXPECT_EQ(ClassOf(WindowOf(tool)), "#32770");
+  EXPECT_EQ(StyleOf(WindowOf(tool)) & DS_SHELLFONT, DS_SHELLFONT);
+}
+
+TEST_F(WindowTest, EachNamedControlFollowsItsLabelAndIsATabStop) {
+  tool.Show();
+  HWND before = nullptr;
+  for (const HWND child : ChildrenOf(WindowOf(tool))) {
+    const bool isStatic = ClassOf(child) == "Static";
+    EXPECT_EQ((StyleOf(child) & WS_TABSTOP) != 0, !isStatic) << TextOf(child);
+    if (!isStatic && ClassOf(child) != "Button") {
+      EXPECT_EQ(ClassOf(before), "Static");
+      EXPECT_NE(TextOf(before), "");
+    }
+    before = child;
+  }
+}
+
+TEST_F(WindowTest, AListScrollsTellsOfItsSelectionAndIsNotSorted) {
+  tool.Show();
+  const HWND list = FindWindowExA(WindowOf(tool), nullptr, "ListBox", nullptr);
+  EXPECT_EQ(StyleOf(list) & (LBS_NOTIFY | LBS_SORT | LBS_OWNERDRAWFIXED), LBS_NOTIFY);
+  for (int i = 0; i < 100; ++i) tool.Servers.Add("hill");
+  tool.Servers.Add(std::string(500, 'a'));
+  RealMachine::Pump();
+  EXPECT_GT(SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0), 500);
+  EXPECT_TRUE(StyleOf(list) & WS_VSCROLL) << "there only while there is something to scroll";
+  tool.Servers.Clear();
+  RealMachine::Pump();
+  EXPECT_EQ(SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0), 0);
+}
+
+TEST_F(WindowTest, ThereIsAlwaysOneDefaultButton) {
+  tool.Show();
+  for (int i = 0; i < 8; ++i) {
+    EXPECT_EQ(DefaultButtonsOf(WindowOf(tool)), 1) << TestMachine::Hears();
+    TestMachine::Press("Tab");
+  }
+  tool.DeleteEntry.Focus();
+  EXPECT_EQ(DefaultButtonsOf(WindowOf(tool)), 1);
+  tool.Servers.Focus();
+  EXPECT_EQ(DefaultButtonsOf(WindowOf(tool)), 1);
+  EXPECT_EQ(LOWORD(SendMessageA(WindowOf(tool), DM_GETDEFID, 0, 0)), IDOK);
+}
+
+TEST_F(WindowTest, NothingIsCutAndAllIsReadInOrder) {
+  tool.Show();
+  ExpectNothingCut(WindowOf(tool));
+  ExpectReadingOrder(WindowOf(tool));
+}
+
+TEST_F(WindowTest, ACaptionThatGrowsMakesTheWindowGrow) {
+  tool.Show();
+  tool.Submit.SetCaption("A caption that is much longer than the one that was here before it");
+  tool.Explanation.SetCaption(std::string(60, 'x') + " " + std::string(60, 'y'));
+  ExpectNothingCut(WindowOf(tool));
+  ExpectReadingOrder(WindowOf(tool));
+}
+
+TEST_F(WindowTest, OnADenserScreenTheWindowIsLaidOutAnew) {
+  tool.Show();
+  const HWND window = WindowOf(tool);
+  const HWND edit = FindWindowExA(window, nullptr, "Edit", nullptr);
+  const LONG before = PlaceOf(edit).bottom - PlaceOf(edit).top;
+  const UINT dpi = Display::DpiOf(window);
+  RECT suggested{};
+  GetWindowRect(window, &suggested);
+  suggested.right += suggested.right - suggested.left;
+  suggested.bottom += suggested.bottom - suggested.top;
+  SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(2 * dpi, 2 * dpi),
+               reinterpret_cast<LPARAM>(&suggested));
+  RECT now{};
+  GetWindowRect(window, &now);
+  EXPECT_EQ(now.left, suggested.left);
+  EXPECT_GE(now.right, suggested.right);
+  EXPECT_NEAR(PlaceOf(edit).bottom - PlaceOf(edit).top, 2 * before, 4);
+  ExpectNothingCut(window);
+  ExpectReadingOrder(window);
+}
+
+TEST_F(WindowTest, TheFocusIsWhereItWasWhenTheUserComesBack) {
+  tool.Address.SetText("play.example");
+  tool.Show();
+  tool.Address.Focus();
+  TestMachine::Press("End");
+  const HWND other =
+      CreateWindowExA(0, "STATIC", "Another program", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100,
+                      100, nullptr, nullptr, nullptr, nullptr);
+  SetActiveWindow(other);
+  tool.Notes.SetText("changed meanwhile");
+  EXPECT_EQ(GetActiveWindow(), other);
+  SetActiveWindow(WindowOf(tool));
+  EXPECT_EQ(TestMachine::Hears(),
+            "Adresse oder Rechnername des Servers, edit, play.example, Alt+A");
+  EXPECT_EQ(TestMachine::SelectedText(), "") << "not entered by Tab";
+  SetActiveWindow(other);
+  tool.Ccl.Focus();
+  EXPECT_EQ(GetActiveWindow(), other) << "a window behind does not come to the front by itself";
+  SetActiveWindow(WindowOf(tool));
+  EXPECT_EQ(TestMachine::Hears(), "Cancel, button") << "but follows when it is used again";
+  DestroyWindow(other);
+}
+
+TEST_F(WindowTest, AWindowMayGoAwayInAnyOfItsEvents) {
+  const auto leave = [this] { tool.Unload(); };
+  tool.Submit.OnClick = leave;
+  tool.Ccl.OnClick = leave;
+  tool.Servers.OnSelect = leave;
+  tool.Servers.OnDoubleClick = leave;
+  tool.Address.OnChange = leave;
+  tool.OnKeyDown = [&](KeyEvent& key) {
+    if (key.code == Key::Insert || key.shift == Shift::Alt) leave();
+  };
+  const std::vector<std::function<void()>> ways{
+      [] { TestMachine::Press("Enter"); },
+      [] { TestMachine::Press("Escape"); },
+      [] { TestMachine::Press("Insert"); },
+      [] { TestMachine::Press("Alt+C"); },
+      [] { TestMachine::ClickButton("OK"); },
+      [] { TestMachine::Press("Down"); },
+      [] { TestMachine::Type("l"); },
+      [this] {
+        tool.Servers.OnSelect = nullptr;
+        TestMachine::DoubleClickRow("lake");
+      },
+      [this] {
+        tool.Address.Focus();
+        TestMachine::Type("x");
+      },
+      [this] {
+        tool.Notes.Focus();
+        TestMachine::Press("Escape");
+      },
+      [] { TestMachine::CloseWindow(); },
+  };
+  for (size_t i = 0; i < ways.size(); ++i) {
+    tool.Servers.Clear();
+    tool.Servers.Add("hill");
+    tool.Servers.Add("lake");
+    tool.Servers.Select(0);
+    tool.Show();
+    ways[i]();
+    EXPECT_FALSE(tool.IsLoaded()) << "way " << i;
+    EXPECT_EQ(TestMachine::VisibleWindows(), std::vector<std::string>{"Main"}) << "way " << i;
+    EXPECT_EQ(GetFocus(), WindowOf(main)) << "way " << i;
+  }
+}
+
+TEST_F(WindowTest, ManyWindowsLeaveNoHandlesBehind) {
+  const auto use = [this] {
+    tool.Show();
+    tool.Unload();
+    RealMachine::Pump();
+  };
+  use();
+  const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+  for (int i = 0; i < 10; ++i) use();
+  EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects + 2);
+  EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows + 2);
+}
+
+}  // namespace
