@@ -97,7 +97,7 @@ std::string Disk::Text(const std::string& path) const {
 
 std::vector<std::string> Disk::Names(const std::string& folder) const {
   std::vector<std::string> names;
-  const std::string start = FoldCase(folder) + "\\";
+  const std::string start = KeyOf(folder) + "\\";
   for (auto at = entries_.lower_bound(start); at != entries_.end(); ++at) {
     if (!at->first.starts_with(start)) break;
     if (at->first.find('\\', start.size()) == std::string::npos) {

@@ -135,14 +135,13 @@ bool RemoveFile(const std::string& path) {
 }
 
 struct FileReader::Open {
-  explicit Open(DiskEntry& entry) : kept(entry.shared_from_this()), file(entry) {
-    if (!file.hostPath.empty()) hostFile.open(file.hostPath, std::ios::binary);
-    ++file.readers;
+  explicit Open(DiskEntry& entry) : file(entry.shared_from_this()) {
+    if (!file->hostPath.empty()) hostFile.open(file->hostPath, std::ios::binary);
+    ++file->readers;
   }
-  ~Open() { --file.readers; }
+  ~Open() { --file->readers; }
 
-  std::shared_ptr<DiskEntry> kept;  // a reader may outlive the machine, which then complains
-  DiskEntry& file;
+  std::shared_ptr<DiskEntry> file;  // a reader may outlive the machine, which then complains
   std::ifstream hostFile;
   size_t position = 0;
 };
@@ -161,7 +160,7 @@ FileReader::~FileReader() = default;
 FileReader::FileReader(FileReader&&) noexcept = default;
 
 size_t FileReader::Read(char* buffer, size_t size) {
-  const DiskEntry& file = open_->file;
+  const DiskEntry& file = *open_->file;
   if (Strikes("FileReader::Read", file.path)) {
     throw RuntimeError(RuntimeError::DeviceError, file.path);
   }
