@@ -69,8 +69,9 @@ has_sound() {
 start_display() {
   local number=$machine_runtime/display
   start display sh -c 'exec Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$1"' sh "$number"
-  wait_until "the virtual display" test -s "$number"
-  export DISPLAY=:$(cat "$number")
+  wait_until "the virtual display" test -s "$number" || return 1
+  DISPLAY=:$(cat "$number")
+  export DISPLAY
 }
 
 # Speakers and a microphone without hardware: what is played can be recorded from speakers.monitor,
@@ -136,10 +137,10 @@ start_windows() {
   if [ ! -e "$machine_folder/prefix-is-made" ]; then
     echo "Making a Wine prefix"
     rm -rf "$WINEPREFIX"
-    wine wineboot --init >"$machine_folder/wineboot.log" 2>&1 </dev/null
+    wine wineboot --init >"$machine_folder/wineboot.log" 2>&1 </dev/null || return 1
     wineserver -w
     # Debian's Wine does not find the fonts of Windows' own controls by itself.
-    cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+    cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/" || return 1
     touch "$machine_folder/prefix-is-made"
   fi
 }
@@ -156,14 +157,14 @@ use_virtual_desktop() {
 "Desktop"="Default"
 
 [HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
-"Default"="1280x1024"'
+"Default"="1280x1024"' || return 1
   # The running desktop is the old one.
   wineserver -k && wineserver -w || true
 }
 
 # Each window is a window of the user's own desktop.
 use_no_desktop() {
-  write_registry '[-HKEY_CURRENT_USER\Software\Wine\Explorer]'
+  write_registry '[-HKEY_CURRENT_USER\Software\Wine\Explorer]' || return 1
   wineserver -k && wineserver -w || true
 }
 

@@ -44,7 +44,8 @@ gtest_suite() {
   report=${log%.log}.xml
   rm -f "$report"
   echo "Running $name"
-  "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
+  # Much longer than any takes: a program that hangs is a failure, not the end of all tests.
+  timeout 900 "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
   if [ -s "$report" ]; then
     all=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$report")
     bad=$(sed -n 's/^<testsuites .*failures="\([0-9]*\)".*/\1/p' "$report")
