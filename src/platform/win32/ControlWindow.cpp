@@ -30,7 +30,8 @@ Class ClassOf(const Control& control) {
       return {"EDIT", style, WS_EX_CLIENTEDGE};
     }
     case Control::Kind::ListBox:
-      return {"LISTBOX", WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY, WS_EX_CLIENTEDGE};
+      return {"LISTBOX", WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+              WS_EX_CLIENTEDGE};
     case Control::Kind::Button: {
       const bool isDefault = static_cast<const Button&>(control).IsDefault();
       return {"BUTTON", WS_TABSTOP | (isDefault ? DWORD{BS_DEFPUSHBUTTON} : DWORD{BS_PUSHBUTTON}),

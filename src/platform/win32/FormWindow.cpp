@@ -1,5 +1,7 @@
 #include "platform/win32/FormWindow.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -82,6 +84,9 @@ FormView::Native::~Native() {
 }
 
 void FormView::Native::MakeDialog() {
+  // Without it, controls may look as they did before there were themes.
+  const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES};
+  InitCommonControlsEx(&controls);
   DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
   if (HasGrowing(form_)) style |= WS_THICKFRAME | WS_MAXIMIZEBOX;
   const DialogTemplate dialog(style, WS_EX_APPWINDOW);
