@@ -12,7 +12,7 @@ namespace TrackQuestions {
 std::string ChooseTrackFile(Platform::FileDialog& dialog, const LangText& noFileText,
                             const LangText& noFileTitle) {
   dialog.initialFolder = Application::GameFolder() + "\\tracks";
-  const std::string path = dialog.Show();
+  std::string path = dialog.Show();
   if (path.empty()) {
     Platform::MsgBox(GetLangString(noFileText), GetLangString(noFileTitle),
                      Platform::Icon::Information);
