@@ -9,7 +9,8 @@ namespace Platform {
 
 namespace {
 
-// Spreads every bit over all others; no two inputs have the same result.
+// Spreads every bit over all others; no two inputs have the same result. The shifts and multipliers
+// are David Stafford's thirteenth variant of such a mixer, which stands up to long tests.
 uint64_t Mix(uint64_t bits) {
   bits = (bits ^ (bits >> 30)) * 0xBF58476D1CE4E5B9;
   bits = (bits ^ (bits >> 27)) * 0x94D049BB133111EB;
