@@ -22,6 +22,20 @@ std::wstring WidePath() {
   }
 }
 
+// The path in the code page. Folders whose names it cannot hold are given by their short names,
+// where the disk keeps such.
+std::string Path() {
+  const std::wstring path = WidePath();
+  const std::string narrow = Narrow(path);
+  if (Widen(narrow) == path) return narrow;
+  std::wstring shortPath(path.size() + MAX_PATH, L'\0');
+  const DWORD length =
+      GetShortPathNameW(path.c_str(), shortPath.data(), static_cast<DWORD>(shortPath.size()));
+  if (length == 0 || length >= shortPath.size()) return narrow;
+  shortPath.resize(length);
+  return Narrow(shortPath);
+}
+
 // One text of a version resource, in the first language that the resource lists.
 std::string VersionText(const std::vector<char>& resource, const wchar_t* name) {
   struct Language {
@@ -47,7 +61,7 @@ std::string VersionText(const std::vector<char>& resource, const wchar_t* name) 
 }  // namespace
 
 std::string ProgramFolder() {
-  return File::FolderOf(Narrow(WidePath()));
+  return File::FolderOf(Path());
 }
 
 std::string ExecutableName() {
