@@ -157,6 +157,13 @@ TEST_F(WindowTest, NothingIsCutAndAllIsReadInOrder) {
   ExpectReadingOrder(WindowOf(tool));
 }
 
+TEST_F(WindowTest, AWindowCannotBeMadeSoSmallThatSomethingIsCut) {
+  tool.Show();
+  SetWindowPos(WindowOf(tool), nullptr, 0, 0, 50, 50, SWP_NOMOVE | SWP_NOZORDER);
+  ExpectNothingCut(WindowOf(tool));
+  ExpectReadingOrder(WindowOf(tool));
+}
+
 TEST_F(WindowTest, ACaptionThatGrowsMakesTheWindowGrow) {
   tool.Show();
   tool.Submit.SetCaption("A caption that is much longer than the one that was here before it");

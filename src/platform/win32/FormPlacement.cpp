@@ -25,6 +25,13 @@ Layout::Size ClientSizeOf(HWND window) {
   return SizeOf(client);
 }
 
+// What a window can show at most on its screen, within its frame.
+Layout::Size RoomFor(HWND window, const RECT& area) {
+  const SIZE frame = Display::WithFrame(window, {0, 0});
+  const Layout::Size size = SizeOf(area);
+  return {size.width - static_cast<int>(frame.cx), size.height - static_cast<int>(frame.cy)};
+}
+
 // The window that was shown last: the next opens over it.
 HWND& LastShown() {
   static HWND window = nullptr;
@@ -65,12 +72,9 @@ void FormView::Native::OpenAtItsPlace() {
   const Layout::Font font = LayoutFont();
   Layout::Size client{font.units.Across(BareWidth), font.units.Down(BareHeight)};
   if (!controls_.empty()) {
-    const SIZE frame = Display::WithFrame(window_, {0, 0});
-    const Layout::Size room = SizeOf(area);
     const int titleWidth = font_->Width(form_.title()) + font.units.Across(TitleBarRest);
-    client = Layout::PreferredSize(
-        LayoutItems(), font, titleWidth,
-        {room.width - static_cast<int>(frame.cx), room.height - static_cast<int>(frame.cy)});
+    client = Layout::PreferredSize(LayoutItems(), font, titleWidth, RoomFor(window_, area));
+    leastSize_ = Layout::LeastSize(LayoutItems(), font, client.width);
   }
   const SIZE size = Display::WithFrame(window_, client);
   const POINT place = Centred(size, over, area);
@@ -94,15 +98,21 @@ void FormView::Native::PlaceControls() {
 void FormView::Native::LayOutAgain() {
   if (!isLaidOut_ || controls_.empty()) return;
   const Layout::Size client = ClientSizeOf(window_);
-  const Layout::Size room = SizeOf(Display::WorkArea(window_));
+  const RECT area = Display::WorkArea(window_);
+  const Layout::Font font = LayoutFont();
   const Layout::Size wanted =
-      Layout::PreferredSize(LayoutItems(), LayoutFont(), client.width, room);
-  const int least = Layout::LeastSize(LayoutItems(), LayoutFont(), wanted.width).height;
-  leastSize_ = {wanted.width, least};
-  if (wanted.width > client.width || least > client.height) {
-    const SIZE size = Display::WithFrame(window_, {wanted.width, std::max(client.height, least)});
-    SetWindowPos(window_, nullptr, 0, 0, size.cx, size.cy,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+      Layout::PreferredSize(LayoutItems(), font, client.width, RoomFor(window_, area));
+  leastSize_ = Layout::LeastSize(LayoutItems(), font, wanted.width);
+  if (wanted.width > client.width || leastSize_.height > client.height) {
+    RECT now{};
+    GetWindowRect(window_, &now);
+    const SIZE size =
+        Display::WithFrame(window_, {wanted.width, std::max(client.height, leastSize_.height)});
+    // It stays where it is, unless it would leave the screen.
+    const RECT grown{now.left, now.top, now.left + size.cx, now.top + size.cy};
+    const POINT place = Centred(size, grown, area);
+    SetWindowPos(window_, nullptr, place.x, place.y, size.cx, size.cy,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
   }
   PlaceControls();
 }
