@@ -20,6 +20,7 @@ build_suite windows
 build_suite fuzz
 build_suite bench
 check_suite "code layout" cmake --build --preset host --target check-format
+check_suite "what clang-tidy finds" cmake --build --preset host --target check-tidy
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
 for program in $(programs_in out/fuzz/fuzz 'fuzz-*'); do fuzz_suite "$program"; done
 for program in $(programs_in out/bench/bench 'bench-*'); do bench_suite "$program"; done

@@ -3,7 +3,7 @@
 # The packages that building and running the pack takes, and those that its tests take besides.
 pack_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest
   wine wine64 fonts-wine fonts-dejavu-core xvfb pulseaudio pulseaudio-utils)
-test_packages=(libgtest-dev libgmock-dev clang libclang-rt-dev clang-format
+test_packages=(libgtest-dev libgmock-dev clang libclang-rt-dev clang-format clang-tidy
   nginx-light)
 
 is_installed() {
