@@ -19,6 +19,9 @@ void FileDialogs::Translate() {
   set(OpenTrack, texts.OpenTrackDlgTitle, texts.TrackFilter, trk);
   set(OpenVehicle, texts.OpenVehicleDlgTitle, texts.VehicleFilter, vhc);
   set(SaveVehicle, texts.SaveVehicleDlgTitle, texts.VehicleFilter, vhc);
+  // A track's name gets its extension in any case; but only one that the dialog itself has
+  // completed is looked up by it, so that it asks before a track is replaced.
+  SaveTrack.defaultExtension = "trk";
   OpenVehicle.defaultExtension = "vhc";
   SaveVehicle.defaultExtension = "vhc";
 }

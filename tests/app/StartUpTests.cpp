@@ -101,7 +101,7 @@ TEST_F(StartUpStory, TheSharedDialogsHaveTheirTitlesFiltersAndExtensions) {
   EXPECT_EQ(dialogs.OpenWav.filter, "Wave audio sound files (*.wav)|*.wav");
   EXPECT_EQ(dialogs.SaveTrack.title, "Save Skidrun2 Track file");
   EXPECT_EQ(dialogs.SaveTrack.filter, "SK2-Strecken (*.trk)|*.trk");
-  EXPECT_EQ(dialogs.SaveTrack.defaultExtension, "");
+  EXPECT_EQ(dialogs.SaveTrack.defaultExtension, "trk");
   EXPECT_EQ(dialogs.OpenTrack.title, "Open Skidrun2 Track file");
   EXPECT_EQ(dialogs.OpenTrack.filter, "SK2-Strecken (*.trk)|*.trk");
   EXPECT_EQ(dialogs.OpenVehicle.title, "Open Skidrun2 Vehicle file");
