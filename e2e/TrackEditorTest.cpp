@@ -114,11 +114,12 @@ TEST_F(TrackEditor, ShortcutsWorkFromTheListAndMoveTheFocusToNewTrack) {
 TEST_F(TrackEditor, TrackThatCannotBeWrittenIsSavedElsewhere) {
   Pack& pack = StartPack();
   const std::string race = gameFolder() + "\\tracks\\Race.trk";
-  WriteFile(race, "an old track");
-  SetFileAttributesA(race.c_str(), FILE_ATTRIBUTE_READONLY);
   pack.ChooseMenu({"Track", "New"});
   pack.ChooseFile("Race");
   pack.WaitForWindow(EditorTitle);
+  // The file comes after the choice: the dialog would ask before one that is there is replaced.
+  WriteFile(race, "an old track");
+  SetFileAttributesA(race.c_str(), FILE_ATTRIBUTE_READONLY);
   pack.Press("Alt+P");
   pack.WaitForWindow(PartTitle);
   pack.Type("5000");
