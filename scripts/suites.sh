@@ -3,12 +3,14 @@
 suite_lines=()
 passed=0
 failed=0
+skipped=0
 
-# count NAME PASSED FAILED
+# count NAME PASSED FAILED [SKIPPED]
 count() {
-  suite_lines+=("$(printf '%6d passed %4d failed  %s' "$2" "$3" "$1")")
+  suite_lines+=("$(printf '%6d passed %4d failed %4d skipped  %s' "$2" "$3" "${4:-0}" "$1")")
   passed=$((passed + $2))
   failed=$((failed + $3))
+  skipped=$((skipped + ${4:-0}))
 }
 
 log_of() {
@@ -36,9 +38,10 @@ build_suite() {
 }
 
 # gtest_suite NAME COMMAND...: a GoogleTest program. One that ends before it has reported, or fails
-# without a failed test, counts as a failure of its own.
+# without a failed test, counts as a failure of its own. A test that this machine cannot run says so
+# by skipping itself, and is named.
 gtest_suite() {
-  local name=$1 log report status=0 all=0 bad=0
+  local name=$1 log report status=0 all=0 bad=0 left_out=0 passes
   shift
   log=$(log_of "$name")
   report=${log%.log}.xml
@@ -49,15 +52,18 @@ gtest_suite() {
   if [ -s "$report" ]; then
     all=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$report")
     bad=$(sed -n 's/^<testsuites .*failures="\([0-9]*\)".*/\1/p' "$report")
+    left_out=$(grep -c 'result="skipped"' "$report" || true)
   fi
   [ "$status" = 0 ] || [ "$bad" -gt 0 ] || bad=1
   # A suite that has lost its tests tests nothing.
-  [ "$all" -gt 0 ] || bad=1
+  [ "$all" -gt "$left_out" ] || bad=1
+  if [ "$left_out" -gt 0 ]; then grep '^\[  SKIPPED \] .* (' "$log" || true; fi
   if [ "$bad" -gt 0 ]; then
     grep -v -E '^\[( RUN |       OK )' "$log" | tail -n 150
     echo "All of its output is in $log"
   fi
-  count "$name" $((all > bad ? all - bad : 0)) "$bad"
+  passes=$((all - bad - left_out))
+  count "$name" $((passes > 0 ? passes : 0)) "$bad" "$left_out"
 }
 
 # programs_in FOLDER PATTERN: their paths.
@@ -86,6 +92,6 @@ report_suites() {
   echo
   printf '%s\n' "${suite_lines[@]}"
   echo
-  echo "$passed passed, $failed failed"
+  echo "$passed passed, $failed failed, $skipped skipped"
   [ "$failed" = 0 ]
 }

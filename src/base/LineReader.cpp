@@ -12,8 +12,9 @@ constexpr size_t Margin = sizeof(uint64_t);
 
 LineReader::LineReader(Source source) : source_(std::move(source)), buffer_(BlockSize + Margin) {}
 
-// The next line where its end is not, or not wholly, among the bytes that were read.
-bool LineReader::NextAcrossBlocks(std::string_view& line) {
+// The next line where its end is not, or not wholly, among the bytes that were read, or is a CR
+// alone.
+bool LineReader::NextWithAnyEnd(std::string_view& line) {
   if (!PassLf()) return false;
   size_t length = FindCr(buffer_.data() + begin_, end_ - begin_);
   while (length >= end_ - begin_) {
