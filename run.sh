@@ -30,11 +30,16 @@ install_packages "${pack_packages[@]}"
 build windows sk2pack windowpicture
 enter_machine out/run
 
+start_virtual_sound() {
+  install_packages "${sound_packages[@]}"
+  start_sound
+}
+
 is_virtual=$once
 if [ -n "$once" ]; then
   echo "Using a virtual display, virtual speakers and a virtual microphone"
   start_display
-  start_sound
+  start_virtual_sound
 else
   if ! has_display; then
     echo "There is no display here: using a virtual one"
@@ -43,7 +48,7 @@ else
   fi
   if ! has_sound; then
     echo "There is no sound hardware here: using virtual speakers and a virtual microphone"
-    start_sound
+    start_virtual_sound
   fi
 fi
 
@@ -51,7 +56,9 @@ start_windows
 if [ -n "$is_virtual" ]; then use_virtual_desktop; else use_no_desktop; fi
 if [ ! -d out/run/Skidrun2 ]; then
   echo "Copying the demo game to out/run/Skidrun2"
-  cp -r demo out/run/Skidrun2
+  rm -rf out/run/Skidrun2.part
+  cp -r demo out/run/Skidrun2.part
+  mv out/run/Skidrun2.part out/run/Skidrun2
 fi
 mkdir -p out/run/SK2Pack "$WINEPREFIX/drive_c/Games"
 cp -r out/windows/pack/. out/run/SK2Pack/

@@ -13,7 +13,7 @@ trap leave_machine EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-install_packages "${pack_packages[@]}" "${test_packages[@]}"
+install_packages "${pack_packages[@]}" "${test_packages[@]}" "${sound_packages[@]}"
 
 build_suite host sk2tests
 build_suite windows
@@ -21,9 +21,11 @@ build_suite fuzz
 build_suite bench
 check_suite "code layout" cmake --build --preset host --target check-format
 check_suite "what clang-tidy finds" cmake --build --preset host --target check-tidy
+check_suite "what clang-tidy finds in the real machine" \
+  cmake --build --preset windows --target check-tidy
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
-for program in $(programs_in out/fuzz/fuzz 'fuzz-*'); do fuzz_suite "$program"; done
-for program in $(programs_in out/bench/bench 'bench-*'); do bench_suite "$program"; done
+each_program fuzz_suite out/fuzz/fuzz 'fuzz-*'
+each_program bench_suite out/bench/bench 'bench-*'
 
 bring_up_machine() {
   enter_machine out/e2e && start_display && start_sound && start_web && start_windows &&

@@ -5,9 +5,15 @@ machine_processes=()
 machine_folder=
 
 # enter_machine FOLDER: everything of the machine is kept in that folder, the Wine prefix between
-# runs too.
+# runs too. Fails if another run is using it: its windows would end with this one.
 enter_machine() {
   mkdir -p "$1"
+  # Open for as long as this shell and what it started.
+  exec {machine_lock}>"$1/lock"
+  if ! flock --nonblock "$machine_lock"; then
+    echo "Another run is using $1; wait until it has ended" >&2
+    return 1
+  fi
   machine_folder=$(cd "$1" && pwd)
   # Sockets have short names only; and nobody else's business is in there.
   machine_runtime=$(mktemp -d)
@@ -37,12 +43,13 @@ start() {
   machine_processes+=($!)
 }
 
-# wait_until WHAT COMMAND...: until it succeeds; gives up after half a minute.
+# wait_until WHAT COMMAND...: until it succeeds; gives up after half a minute, or once the process
+# that was started last has ended.
 wait_until() {
-  local what=$1 deadline=$((SECONDS + 30))
+  local what=$1 deadline=$((SECONDS + 30)) process=${machine_processes[-1]}
   shift
   until "$@" >/dev/null 2>&1; do
-    if [ "$SECONDS" -ge "$deadline" ]; then
+    if [ "$SECONDS" -ge "$deadline" ] || ! kill -0 "$process" 2>/dev/null; then
       echo "Waited in vain for $what; see the logs in $machine_folder" >&2
       return 1
     fi
@@ -106,20 +113,20 @@ start_web() {
     cat >"$machine_folder/nginx/nginx.conf" <<END
 $user
 worker_processes 1;
-pid $machine_folder/nginx/nginx.pid;
+pid "$machine_folder/nginx/nginx.pid";
 error_log stderr;
 events {}
 http {
-  access_log $machine_folder/nginx/access.log;
-  client_body_temp_path $machine_folder/nginx/body;
-  proxy_temp_path $machine_folder/nginx/proxy;
-  fastcgi_temp_path $machine_folder/nginx/fastcgi;
-  uwsgi_temp_path $machine_folder/nginx/uwsgi;
-  scgi_temp_path $machine_folder/nginx/scgi;
+  access_log "$machine_folder/nginx/access.log";
+  client_body_temp_path "$machine_folder/nginx/body";
+  proxy_temp_path "$machine_folder/nginx/proxy";
+  fastcgi_temp_path "$machine_folder/nginx/fastcgi";
+  uwsgi_temp_path "$machine_folder/nginx/uwsgi";
+  scgi_temp_path "$machine_folder/nginx/scgi";
   default_type application/octet-stream;
   server {
     listen 127.0.0.1:$port;
-    root $machine_folder/web/\$host;
+    root "$machine_folder/web/\$host";
   }
 }
 END

@@ -2,29 +2,53 @@
 
 # The packages that building and running the pack takes, and those that its tests take besides.
 pack_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest
-  wine wine64 fonts-wine fonts-dejavu-core xvfb pulseaudio pulseaudio-utils)
+  fp-utils wine wine64 fonts-wine fonts-dejavu-core xvfb pulseaudio-utils)
 test_packages=(libgtest-dev libgmock-dev clang libclang-rt-dev clang-format clang-tidy
   nginx-light)
+# Speakers without hardware. Where there are real ones another sound server may be at work, which
+# this one would push out.
+sound_packages=(pulseaudio)
 
 is_installed() {
   [ "$(dpkg-query -W -f='${Status}' "$1" 2>/dev/null)" = "install ok installed" ]
 }
 
+as_root() {
+  if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# apt ARGUMENT...: apt-get, asking nothing. It removes no package: what the user has stays.
+apt() {
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
+    -o Dpkg::Use-Pty=0 "$@"
+}
+
+# Installs packages without starting their services, now or when the machine starts.
+install_quietly() {
+  local policy=/usr/sbin/policy-rc.d status=0 own_policy=
+  apt update || return 1
+  if [ ! -e "$policy" ]; then
+    own_policy=1
+    printf '#!/bin/sh\nexit 101\n' | as_root tee "$policy" && as_root chmod +x "$policy"
+  fi
+  apt install --yes --no-remove --no-install-recommends "$@" || status=1
+  [ -z "$own_policy" ] || as_root rm "$policy"
+  if [ -d /run/systemd/system ] && [[ " $* " == *" nginx-light "* ]]; then
+    as_root systemctl --quiet disable nginx || status=1
+  fi
+  return "$status"
+}
+
 # install_packages NAME...: installs those that are not there; asks apt for nothing if all are.
 install_packages() {
-  local missing=() package log sudo=()
+  local missing=() package log
   for package in "$@"; do
     is_installed "$package" || missing+=("$package")
   done
   [ ${#missing[@]} -gt 0 ] || return 0
-  [ "$(id -u)" = 0 ] || sudo=(sudo)
   echo "Installing ${missing[*]}"
   log=$(mktemp)
-  if ! {
-    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 update &&
-      "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
-        -o Dpkg::Use-Pty=0 install --yes --no-install-recommends "${missing[@]}"
-  } >"$log" 2>&1 </dev/null; then
+  if ! install_quietly "${missing[@]}" >"$log" 2>&1 </dev/null; then
     tail -n 20 "$log" >&2
     rm -f "$log"
     return 1

@@ -48,7 +48,8 @@ gtest_suite() {
   rm -f "$report"
   echo "Running $name"
   # Much longer than any takes: a program that hangs is a failure, not the end of all tests.
-  timeout 900 "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
+  # In the foreground, so that Ctrl+C reaches it.
+  timeout --foreground 900 "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
   if [ -s "$report" ]; then
     all=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$report")
     bad=$(sed -n 's/^<testsuites .*failures="\([0-9]*\)".*/\1/p' "$report")
@@ -59,16 +60,19 @@ gtest_suite() {
   [ "$all" -gt "$left_out" ] || bad=1
   if [ "$left_out" -gt 0 ]; then grep '^\[  SKIPPED \] .* (' "$log" || true; fi
   if [ "$bad" -gt 0 ]; then
-    grep -v -E '^\[( RUN |       OK )' "$log" | tail -n 150
+    { grep -v -E '^\[( RUN |       OK )' "$log" || true; } | tail -n 150
     echo "All of its output is in $log"
   fi
   passes=$((all - bad - left_out))
   count "$name" $((passes > 0 ? passes : 0)) "$bad" "$left_out"
 }
 
-# programs_in FOLDER PATTERN: their paths.
-programs_in() {
-  find "$1" -maxdepth 1 -type f -executable -name "$2" 2>/dev/null | sort
+# each_program SUITE FOLDER PATTERN: runs the suite with each program there; none is a failure.
+each_program() {
+  local suite=$1 folder=$2 pattern=$3 programs program
+  mapfile -t programs < <(find "$folder" -maxdepth 1 -type f -executable -name "$pattern" | sort)
+  [ ${#programs[@]} -gt 0 ] || count "$folder/$pattern: no such program" 0 1
+  for program in "${programs[@]}"; do "$suite" "$program"; done
 }
 
 # fuzz_suite PROGRAM: a short run over its seeds and what it makes of them.

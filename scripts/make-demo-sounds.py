@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the sounds of the demo installation anew, beside this program: short 8-bit mono waves.
+"""Makes the sounds of the demo game anew: short 8-bit mono waves.
 
 The waves are kept with the project; this is run by hand when one of them is to sound different.
 """
@@ -9,7 +9,7 @@ import random
 import wave
 
 RATE = 11025
-HERE = pathlib.Path(__file__).parent
+DEMO = pathlib.Path(__file__).parent.parent / "demo"
 
 
 def engine(hertz, seconds, roughness):
@@ -51,7 +51,7 @@ def tones(hertz, seconds):
 
 
 def write(name, samples):
-    path = HERE / name
+    path = DEMO / name
     path.parent.mkdir(parents=True, exist_ok=True)
     data = bytes(max(0, min(255, round(128 + 120 * s))) for s in samples)
     with wave.open(str(path), "wb") as file:
