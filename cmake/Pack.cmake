@@ -19,6 +19,7 @@ function(sk2_pack name version description)
   sk2_version_resource(${name} ${version} ${description})
   add_executable(${name} WIN32 src/app/Main.cpp ${CMAKE_BINARY_DIR}/generated/${name}.rc)
   target_link_libraries(${name} PRIVATE core machine)
+  target_link_options(${name} PRIVATE -s)
 endfunction()
 
 sk2_pack(sk2pack ${PROJECT_VERSION} "Skidrun2 Utility Pack")

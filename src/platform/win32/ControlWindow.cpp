@@ -219,8 +219,8 @@ void ControlWindow::DrawRows() {
 
 void ControlWindow::ShowRowWidth() const {
   // A little air, lest the last letter touch the frame.
-  const int air = rowWidth_ > 0 ? GetSystemMetrics(SM_CXEDGE) * 2 : 0;
-  SendMessageA(window_, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(rowWidth_ + air), 0);
+  const int width = rowWidth_ > 0 ? rowWidth_ + GetSystemMetrics(SM_CXEDGE) * 2 : 0;
+  SendMessageA(window_, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
 }
 
 void ControlWindow::ShowSelection() const {

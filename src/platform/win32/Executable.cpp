@@ -26,7 +26,7 @@ std::wstring WidePath() {
 // where the disk keeps such.
 std::string Path() {
   const std::wstring path = WidePath();
-  const std::string narrow = Narrow(path);
+  std::string narrow = Narrow(path);
   if (Widen(narrow) == path) return narrow;
   std::wstring shortPath(path.size() + MAX_PATH, L'\0');
   const DWORD length =
