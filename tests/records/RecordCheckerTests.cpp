@@ -1,6 +1,7 @@
 // What the user is told about a record file: line by line, and when there is nothing to read.
 #include "base/LineReader.h"
 #include "records/RecordChecker.h"
+#include "tests/FailureSweep.h"
 #include "tests/HostFile.h"
 #include "tests/PeakMemory.h"
 #include "tests/records/RecordStory.h"
@@ -116,19 +117,24 @@ TEST_F(RecordCheckerStory, AFileOfAnySizeIsCheckedInBoundedMemory) {
   int64_t status = 0;
   const auto growth = PeakMemory::Of([&] { status = CheckRecordFile(RecordPath, message); });
   EXPECT_EQ(status, static_cast<int64_t>(lines));
-  EXPECT_LT(growth.value_or(0), 16 * Megabyte);
+  if (!growth) GTEST_SKIP() << "nobody tells how much memory is in use";
+  EXPECT_LT(*growth, 16 * Megabyte);
 }
 
-TEST_F(RecordCheckerStory, AnySingleFailureIsAResult) {
-  for (int calls = 0;; ++calls) {
-    PutRecords("a=1\r\nb=x\r\n");
-    machine.FailAnyCall({calls});
-    const int64_t status = CheckRecordFile(RecordPath, message);
-    if (!machine.FailureHappened()) break;
-    EXPECT_THAT(status, testing::AnyOf(2, MissingRecordFile, UnreadableRecordFile))
-        << machine.FailedCall();
-    EXPECT_NE(message, "") << machine.FailedCall();
-  }
+TEST(RecordCheckerSweep, AnySingleFailureIsAResult) {
+  const std::string path = "C:\\Games\\Skidrun2\\highscore.cfg";
+  const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
+    machine.files.Put(path, "a=1\r\nb=x\r\n");
+    machine.FailAnyCall(after);
+    std::string message;
+    const int64_t status = CheckRecordFile(path, message);
+    int64_t expected = 2;
+    if (machine.FailedCall().starts_with("FileExists")) expected = MissingRecordFile;
+    if (machine.FailedCall().starts_with("FileReader")) expected = UnreadableRecordFile;
+    EXPECT_EQ(status, expected);
+    EXPECT_NE(message, "");
+  });
+  EXPECT_GT(calls.size(), 2U) << "hardly a call was made to fail";
 }
 
 TEST_F(RecordCheckerStory, TheMenuTellsThatAllIsWell) {

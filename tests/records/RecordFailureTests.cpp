@@ -1,6 +1,7 @@
 // Record files that cannot be written: the user is told, and nothing is lost or pretended.
 #include "base/LineReader.h"
 #include "platform/Controls.h"
+#include "tests/FailureSweep.h"
 #include "tests/records/RecordStory.h"
 
 namespace {
@@ -104,20 +105,19 @@ std::vector<std::string> TracksIn(const std::string& bytes) {
 TEST(RecordFailureSweep, AnySingleFailureLeavesFileAndWindowInAgreement) {
   const std::string path = "C:\\Games\\Skidrun2\\highscore.cfg";
   const std::string all = "hill=1000\r\nlake=2000\r\nmoor=3000\r\n";
-  for (int calls = 0;; ++calls) {
-    Simulated::Machine machine;
+  const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
     Simulated::User& user = machine.user;
     machine.InstallGame("C:\\Games\\Skidrun2");
     machine.files.Put(path, all);
     StartPack();
-    machine.FailAnyCall({calls});
+    machine.FailAnyCall(after);
 
     const auto isOpen = [] { return Platform::ActiveForm() != &Platform::MainForm(); };
     const auto expectAgreement = [&](const std::string& changed) {
-      EXPECT_TRUE(Platform::ActiveForm()->IsVisible()) << machine.FailedCall();
-      EXPECT_THAT(machine.files.Text(path), testing::AnyOf(all, changed)) << machine.FailedCall();
+      EXPECT_TRUE(Platform::ActiveForm()->IsVisible());
+      EXPECT_THAT(machine.files.Text(path), testing::AnyOf(all, changed));
       if (isOpen()) {
-        EXPECT_EQ(Listed(), TracksIn(machine.files.Text(path))) << machine.FailedCall();
+        EXPECT_EQ(Listed(), TracksIn(machine.files.Text(path)));
       }
     };
 
@@ -125,8 +125,8 @@ TEST(RecordFailureSweep, AnySingleFailureLeavesFileAndWindowInAgreement) {
     expectAgreement(all);
     if (!isOpen()) {
       ASSERT_TRUE(machine.FailureHappened());
-      EXPECT_EQ(user.Boxes().size(), 1u) << machine.FailedCall();
-      continue;
+      EXPECT_EQ(user.Boxes().size(), 1u);
+      return;
     }
     user.AnswersYes();
     user.Presses("Alt+D");
@@ -134,16 +134,15 @@ TEST(RecordFailureSweep, AnySingleFailureLeavesFileAndWindowInAgreement) {
     const std::string rest = machine.files.Text(path);
     user.AnswersYes();
     user.Presses("Alt+R");
-    EXPECT_THAT(machine.files.Text(path), testing::AnyOf(rest, "")) << machine.FailedCall();
-    EXPECT_EQ(Listed(), TracksIn(machine.files.Text(path))) << machine.FailedCall();
+    EXPECT_THAT(machine.files.Text(path), testing::AnyOf(rest, ""));
+    EXPECT_EQ(Listed(), TracksIn(machine.files.Text(path)));
     user.Presses("Escape");
-    EXPECT_FALSE(isOpen()) << machine.FailedCall();
+    EXPECT_FALSE(isOpen());
     if (!machine.FailureHappened()) {
       EXPECT_EQ(machine.files.Text(path), "");
-      EXPECT_GT(calls, 2) << "the sweep has met the reading and both writings";
-      break;
     }
-  }
+  });
+  EXPECT_GT(calls.size(), 2U) << "the sweep has met the reading and both writings";
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 // The menu item Track, Check .trk file.
+#include "tests/app/CheckedFile.h"
 #include "tests/app/PackStory.h"
 
 namespace {
 
 using Platform::Icon;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 const std::string Path = "C:\\Games\\Skidrun2\\tracks\\hill.trk";
@@ -124,41 +124,13 @@ TEST_F(CheckTrackStory, CtrlCDownAndEnterCheckATrack) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
-using CheckTrackWithoutTheGame = Story;
-
-TEST_F(CheckTrackWithoutTheGame, NothingIsAskedAndTheCauseIsTold) {
-  StartPack();
-  user.ChoosesMenu({"Track", "Check .trk file"});
-  EXPECT_THAT(user.FileDialogs(), IsEmpty());
-  EXPECT_THAT(user.Boxes(),
-              ElementsAre(Shows(Icon::Critical, StartsWith("Skidrun2 was not found"), "Error")));
-  EXPECT_EQ(user.SeesWindow(), "Skidrun2 Utility Pack V1.0");
+TEST(CheckTrackWithoutTheGame, NothingIsAskedAndTheCauseIsTold) {
+  CheckedFile::ExpectTheMissingGameToBeTold({"Track", "Check .trk file"});
 }
 
-// Whatever call fails first: the user is told one thing, the file stays, the main window too.
 TEST(CheckTrackSweep, AnyFailureEndsInOneBox) {
-  const std::string bytes = "0\r\n0\r\n5000\r\n-1\r\n0\r\n";
-  for (int n = 0;; ++n) {
-    Simulated::Machine machine;
-    machine.InstallGame("C:\\Games\\Skidrun2");
-    machine.files.Put(Path, bytes);
-    StartPack();
-    machine.user.ChoosesFile(Path);
-    machine.FailAnyCall(Simulated::After{n});
-    machine.user.ChoosesMenu({"Track", "Check .trk file"});
-    SCOPED_TRACE(machine.FailedCall());
-    EXPECT_EQ(machine.user.Boxes().size(), 1U);
-    EXPECT_EQ(machine.user.SeesWindow(), "Skidrun2 Utility Pack V1.0");
-    EXPECT_EQ(machine.files.Text(Path), bytes);
-    EXPECT_EQ(machine.files.Names("C:\\Games\\Skidrun2\\tracks"), Names("hill.trk"));
-    // The dialog may not have been reached.
-    machine.user.script().files.clear();
-    if (!machine.FailureHappened()) {
-      EXPECT_THAT(machine.user.LastBox(), Shows(Icon::Information, testing::_, "File OK"));
-      EXPECT_GT(n, 4) << "hardly a call was made to fail";
-      break;
-    }
-  }
+  CheckedFile::ExpectAnyFailureToEndInOneBox({"Track", "Check .trk file"}, Path,
+                                             "0\r\n0\r\n5000\r\n-1\r\n0\r\n");
 }
 
 }  // namespace

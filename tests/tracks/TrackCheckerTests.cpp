@@ -1,6 +1,7 @@
 #include "tracks/TrackChecker.h"
 
 #include "base/LineReader.h"
+#include "tests/FailureSweep.h"
 #include "tests/HostFile.h"
 #include "tests/PeakMemory.h"
 #include "tests/Story.h"
@@ -268,20 +269,19 @@ TEST_F(TrackChecker, AHundredMegabytesAreCheckedInLittleMemory) {
   Verdict found{};
   const auto growth = PeakMemory::Of([&] { found = CheckFile(); });
   EXPECT_EQ(found, Passed(static_cast<int>(3 * parts + 2 + texts), static_cast<int>(parts)));
-  EXPECT_LT(growth.value_or(0), 16 * Megabyte);
+  if (!growth) GTEST_SKIP() << "nobody tells how much memory is in use";
+  EXPECT_LT(*growth, 16 * Megabyte);
 }
 
 // Whatever call fails first, the checker returns a verdict of its contract.
 TEST(TrackCheckerSweep, AnyFailureIsAVerdict) {
   const std::string path = "C:\\Games\\Skidrun2\\tracks\\hill.trk";
   const std::string bytes = "0\r\n0\r\n5000\r\n-1\r\n0\r\n";
-  for (int n = 0;; ++n) {
-    Simulated::Machine machine;
+  const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
     machine.files.Put(path, bytes);
-    machine.FailAnyCall(Simulated::After{n});
+    machine.FailAnyCall(after);
     Verdict found{};
     found.result = CheckTrackFile(path, found.code, found.message);
-    SCOPED_TRACE(machine.FailedCall());
     if (machine.FailedCall().starts_with("FileReader")) {
       EXPECT_EQ(found,
                 (Verdict{-1, TrackFault::Unreadable, "(General): " + path + " doesn't exist."}));
@@ -291,11 +291,8 @@ TEST(TrackCheckerSweep, AnyFailureIsAVerdict) {
                                 "errors."}));
     }
     EXPECT_EQ(machine.files.Text(path), bytes);
-    if (!machine.FailureHappened()) {
-      EXPECT_GT(n, 2) << "hardly a call was made to fail";
-      break;
-    }
-  }
+  });
+  EXPECT_GT(calls.size(), 2U) << "hardly a call was made to fail";
 }
 
 }  // namespace

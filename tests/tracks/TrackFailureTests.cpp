@@ -1,7 +1,9 @@
 // Every call of the machine fails once while tracks are made: nothing is lost, nothing is left
 // behind, and the user is told and never without a window.
+#include "app/Start.h"
 #include "base/LineReader.h"
-#include "tests/app/PackStory.h"
+#include "tests/FailureSweep.h"
+#include "tests/Matchers.h"
 #include "tracks/TrackInWork.h"
 
 namespace {
@@ -16,7 +18,7 @@ const std::string OnePart = "3\r\n1\r\n7000\r\n";
 // A started pack, with an old track and with the program folder in place, so that the language file
 // is written too.
 struct StartedPack {
-  StartedPack() {
+  explicit StartedPack(Simulated::Machine& itsMachine) : machine(itsMachine) {
     machine.InstallGame(Game);
     machine.files.PutFolder(machine.executable.folder);
     machine.files.Put(Race, "an old track");
@@ -37,34 +39,30 @@ struct StartedPack {
     return false;
   }
 
-  Simulated::Machine machine;
+  Simulated::Machine& machine;
   Simulated::User& user = machine.user;
 };
 
-// Lets the first call of an action fail, then the second, until the action runs through.
-template <class Action>
-void ForEachCallThatFails(Action&& action) {
-  int failures = 0;
-  for (;; ++failures) {
-    StartedPack pack;
-    const bool goesOn = action(pack, Simulated::After{failures});
-    SCOPED_TRACE("call " + std::to_string(failures) + ", " + pack.machine.FailedCall());
+// Lets each call of an action in the started pack fail in turn.
+void LetEachCallFail(const std::function<void(StartedPack&, Simulated::After)>& action) {
+  const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
+    StartedPack pack(machine);
+    action(pack, after);
     ASSERT_NE(Platform::ActiveForm(), nullptr);
     EXPECT_TRUE(Platform::ActiveForm()->IsVisible());
-    EXPECT_EQ(pack.machine.files.Names(Tracks), Names("Race.trk"));
-    if (!goesOn) break;
-  }
-  EXPECT_GT(failures, 3);
+    EXPECT_EQ(machine.files.Names(Tracks), Names("Race.trk"));
+  });
+  EXPECT_GT(calls.size(), 3U) << "hardly a call was made to fail";
 }
 
 TEST(TrackFailureSweep, ANewTrackOpensTheEditorOrLeavesTheMainWindow) {
-  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+  LetEachCallFail([](StartedPack& pack, Simulated::After after) {
     pack.user.ChoosesFile("Race");
     pack.machine.FailAnyCall(after);
     pack.user.ChoosesMenu({"Track", "New"});
     const bool failed = pack.machine.FailureHappened();
     if (TheTrack().TrackPath.empty()) {
-      EXPECT_TRUE(failed && pack.WasToldOfAFailure()) << pack.machine.FailedCall();
+      EXPECT_TRUE(failed && pack.WasToldOfAFailure());
       EXPECT_EQ(pack.user.SeesWindow(), PackTitle);
       pack.ForgetTheRest();
       pack.user.ChoosesFile("Race");
@@ -72,12 +70,11 @@ TEST(TrackFailureSweep, ANewTrackOpensTheEditorOrLeavesTheMainWindow) {
     }
     EXPECT_EQ(TheTrack().TrackPath, Race);
     EXPECT_EQ(pack.user.SeesWindow(), EditorTitle);
-    return failed;
   });
 }
 
 TEST(TrackFailureSweep, APartIsAddedWhateverFails) {
-  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+  LetEachCallFail([](StartedPack& pack, Simulated::After after) {
     pack.user.ChoosesFile("Race");
     pack.user.ChoosesMenu({"Track", "New"});
     pack.machine.FailAnyCall(after);
@@ -88,14 +85,13 @@ TEST(TrackFailureSweep, APartIsAddedWhateverFails) {
     pack.user.Presses("Tab");
     for (int i = 0; i < 3; ++i) pack.user.Presses("Down");
     pack.user.Presses("Enter");
-    EXPECT_EQ(pack.user.SeesWindow(), EditorTitle) << pack.machine.FailedCall();
-    EXPECT_EQ(TheTrack().TrackText, OnePart) << pack.machine.FailedCall();
-    return pack.machine.FailureHappened();
+    EXPECT_EQ(pack.user.SeesWindow(), EditorTitle);
+    EXPECT_EQ(TheTrack().TrackText, OnePart);
   });
 }
 
 TEST(TrackFailureSweep, ASaveWritesTheWholeTrackOrKeepsItAndTheOldFile) {
-  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+  LetEachCallFail([](StartedPack& pack, Simulated::After after) {
     pack.user.ChoosesFile("Race");
     pack.user.ChoosesMenu({"Track", "New"});
     TheTrack().TrackText = OnePart;
@@ -104,7 +100,7 @@ TEST(TrackFailureSweep, ASaveWritesTheWholeTrackOrKeepsItAndTheOldFile) {
     pack.user.Presses("Alt+S");
     const bool failed = pack.machine.FailureHappened();
     if (!TheTrack().TrackPath.empty()) {
-      EXPECT_TRUE(failed && pack.WasToldOfAFailure()) << pack.machine.FailedCall();
+      EXPECT_TRUE(failed && pack.WasToldOfAFailure());
       EXPECT_EQ(pack.user.SeesWindow(), EditorTitle);
       EXPECT_EQ(TheTrack().TrackText, OnePart);
       EXPECT_EQ(pack.machine.files.Text(Race), "an old track");
@@ -113,12 +109,11 @@ TEST(TrackFailureSweep, ASaveWritesTheWholeTrackOrKeepsItAndTheOldFile) {
     }
     EXPECT_EQ(pack.user.SeesWindow(), PackTitle);
     EXPECT_EQ(pack.machine.files.Text(Race), OnePart + "-1\r\n0\r\n");
-    return failed;
   });
 }
 
 TEST(TrackFailureSweep, ARandomTrackIsWholeOrNotThereAtAll) {
-  ForEachCallThatFails([](StartedPack& pack, Simulated::After after) {
+  LetEachCallFail([](StartedPack& pack, Simulated::After after) {
     const auto makesTrack = [&] {
       pack.user.ChoosesFile("Race");
       pack.user.AnswersNo();
@@ -140,7 +135,6 @@ TEST(TrackFailureSweep, ARandomTrackIsWholeOrNotThereAtAll) {
     const std::vector<std::string> lines = LinesOf(pack.machine.files.Text(Race));
     EXPECT_EQ(lines.size(), 9000 * 3 + 2u);
     EXPECT_EQ(lines.back(), "1");
-    return failed;
   });
 }
 

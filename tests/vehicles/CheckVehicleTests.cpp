@@ -1,11 +1,11 @@
 // The menu item Vehicle, Check .vhc file.
+#include "tests/app/CheckedFile.h"
 #include "tests/app/PackStory.h"
 
 namespace {
 
 using Platform::Icon;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 const std::string Folder = "C:\\Games\\Skidrun2\\vehicles\\rocket";
@@ -121,42 +121,14 @@ TEST_F(CheckVehicleStory, CtrlCAndEnterCheckAVehicle) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
-using CheckVehicleWithoutTheGame = Story;
-
-TEST_F(CheckVehicleWithoutTheGame, NothingIsAskedAndTheCauseIsTold) {
-  StartPack();
-  user.ChoosesMenu({"Vehicle", "Check .vhc file"});
-  EXPECT_THAT(user.FileDialogs(), IsEmpty());
-  EXPECT_THAT(user.Boxes(),
-              ElementsAre(Shows(Icon::Critical, StartsWith("Skidrun2 was not found"), "Error")));
-  EXPECT_EQ(user.SeesWindow(), "Skidrun2 Utility Pack V1.0");
+TEST(CheckVehicleWithoutTheGame, NothingIsAskedAndTheCauseIsTold) {
+  CheckedFile::ExpectTheMissingGameToBeTold({"Vehicle", "Check .vhc file"});
 }
 
-// Whatever call fails first: the user is told one thing, the file stays, the main window too.
 TEST(CheckVehicleSweep, AnyFailureEndsInOneBox) {
-  const std::string bytes = "skidrun=1\r\nhornsound=horn.wav\r\n";
-  for (int n = 0;; ++n) {
-    Simulated::Machine machine;
-    machine.InstallGame("C:\\Games\\Skidrun2");
-    machine.files.Put(Path, bytes);
-    machine.files.Put(Folder + "\\horn.wav", "");
-    StartPack();
-    machine.user.ChoosesFile(Path);
-    machine.FailAnyCall(Simulated::After{n});
-    machine.user.ChoosesMenu({"Vehicle", "Check .vhc file"});
-    SCOPED_TRACE(machine.FailedCall());
-    EXPECT_EQ(machine.user.Boxes().size(), 1U);
-    EXPECT_EQ(machine.user.SeesWindow(), "Skidrun2 Utility Pack V1.0");
-    EXPECT_EQ(machine.files.Text(Path), bytes);
-    EXPECT_EQ(machine.files.Names(Folder), Names("horn.wav", "rocket.vhc"));
-    // The dialog may not have been reached.
-    machine.user.script().files.clear();
-    if (!machine.FailureHappened()) {
-      EXPECT_THAT(machine.user.LastBox(), Shows(Icon::Information, testing::_, "File OK"));
-      EXPECT_GT(n, 4) << "hardly a call was made to fail";
-      break;
-    }
-  }
+  CheckedFile::ExpectAnyFailureToEndInOneBox({"Vehicle", "Check .vhc file"}, Path,
+                                             "skidrun=1\r\nhornsound=horn.wav\r\n",
+                                             {Folder + "\\horn.wav"});
 }
 
 }  // namespace

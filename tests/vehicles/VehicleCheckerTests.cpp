@@ -1,6 +1,7 @@
 #include "vehicles/VehicleChecker.h"
 
 #include "base/LineReader.h"
+#include "tests/FailureSweep.h"
 #include "tests/HostFile.h"
 #include "tests/PeakMemory.h"
 #include "tests/Story.h"
@@ -297,7 +298,8 @@ TEST_F(VehicleChecker, AHundredMegabytesAreCheckedInLittleMemory) {
   Verdict found{};
   const auto growth = PeakMemory::Of([&] { found = Check(); });
   EXPECT_EQ(found, Passed());
-  EXPECT_LT(growth.value_or(0), 16 * Megabyte);
+  if (!growth) GTEST_SKIP() << "nobody tells how much memory is in use";
+  EXPECT_LT(*growth, 16 * Megabyte);
 }
 
 // Whatever call fails first, the checker returns a verdict of its contract.
@@ -305,19 +307,12 @@ TEST(VehicleCheckerSweep, AnyFailureIsAVerdict) {
   const std::string folder = "C:\\Games\\Skidrun2\\vehicles\\rocket";
   const std::string path = folder + "\\rocket.vhc";
   const std::string bytes = "skidrun=1\r\nhornsound=horn.wav\r\nhaswipers=1\r\n";
-  for (int n = 0;; ++n) {
-    Simulated::Machine machine;
+  const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
     machine.files.Put(path, bytes);
     machine.files.Put(folder + "\\horn.wav", "");
-    machine.FailAnyCall(Simulated::After{n});
+    machine.FailAnyCall(after);
     Verdict found{};
     found.result = CheckVehicleFile(path, found.code, found.message);
-    if (!machine.FailureHappened()) {
-      EXPECT_EQ(found, (Verdict{0, 0, NoError}));
-      EXPECT_GT(n, 2) << "hardly a call was made to fail";
-      break;
-    }
-    SCOPED_TRACE(machine.FailedCall());
     if (machine.FailedCall().starts_with("FileReader")) {
       EXPECT_EQ(found, (Verdict{-1, VehicleFault::Unreadable, NoFile}));
     } else if (machine.FailedCall().starts_with("FileExists")) {
@@ -327,7 +322,8 @@ TEST(VehicleCheckerSweep, AnyFailureIsAVerdict) {
       EXPECT_EQ(found, (Verdict{0, 0, NoError}));
     }
     EXPECT_EQ(machine.files.Text(path), bytes);
-  }
+  });
+  EXPECT_GT(calls.size(), 2U) << "hardly a call was made to fail";
 }
 
 }  // namespace
