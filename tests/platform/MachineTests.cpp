@@ -6,6 +6,7 @@
 #include <set>
 
 #include "app/Application.h"
+#include "base/PerRun.h"
 #include "platform/Clock.h"
 #include "platform/FileDialog.h"
 #include "platform/Files.h"
@@ -54,6 +55,19 @@ TEST(Machine, ComplainsAboutStepsThatNeverCame) {
   EXPECT_THAT(ear.heard,
               ElementsAre("nobody asked for the answer Yes", "no file dialog came for C:\\hill.trk",
                           "no window opened with the title Progress"));
+}
+
+TEST(Machine, TakesBackAtARunsEndWhatTheRunHeld) {
+  Simulated::Machine machine;
+  {
+    Form main(FixedText("Main"));
+    StartProgram(main);
+    OpenSoundDevice(main);
+    HoldNamedMutex("ORVSK2Pack");
+    RunObjects::End();
+  }
+  EXPECT_FALSE(IsSoundDeviceOpen());
+  EXPECT_THAT(machine.mutexes.Held(), IsEmpty());
 }
 
 TEST(Machine, ComplainsAboutOpenFiles) {

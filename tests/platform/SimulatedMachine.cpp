@@ -114,8 +114,7 @@ Platform::ProgramVersion VersionOfExecutable() {
 }
 
 bool HasMutex(const std::string& name) {
-  const auto& held = machine->mutexes.Held();
-  return std::find(held.begin(), held.end(), name) != held.end();
+  return machine->mutexes.Exists(name);
 }
 
 bool HasSoundDevice() {

@@ -1,5 +1,6 @@
 #include "platform/NamedMutex.h"
 
+#include "base/PerRun.h"
 #include "base/RuntimeError.h"
 #include "platform/simulated/Machine.h"
 
@@ -13,6 +14,7 @@ void HoldNamedMutex(const std::string& name) {
     throw RuntimeError(RuntimeError::DeviceError);
   }
   machine.mutexes.Hold(name);
+  RunObjects::OnEnd([name] { Simulated::TheMachine().mutexes.Release(name); });
 }
 
 }  // namespace Platform

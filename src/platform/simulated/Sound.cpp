@@ -1,5 +1,6 @@
 #include "platform/Sound.h"
 
+#include "base/PerRun.h"
 #include "base/RuntimeError.h"
 #include "platform/Forms.h"
 #include "platform/simulated/Machine.h"
@@ -14,6 +15,7 @@ void OpenSoundDevice(Form& owner) {
     throw RuntimeError(RuntimeError::DeviceError);
   }
   machine.sound.Open();
+  RunObjects::OnEnd([] { Simulated::TheMachine().sound.Close(); });
 }
 
 bool IsSoundDeviceOpen() {

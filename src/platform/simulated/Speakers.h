@@ -13,6 +13,8 @@ class Speakers {
 
   // For the service.
   void Open() { isOpen_ = true; }
+  // At the end of a run, which owns the device.
+  void Close() { isOpen_ = false; }
 
  private:
   bool isPluggedIn_ = true;
