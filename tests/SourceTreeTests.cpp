@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -24,6 +25,11 @@ struct SourceFile {
   std::vector<std::string> quoted;  // what it includes, as written: "..."
   std::vector<std::string> system;  // <...>
 };
+
+std::string TextOf(const std::string& path) {
+  std::ifstream stream(Root / path);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 SourceFile Read(const fs::path& path) {
   SourceFile file{fs::relative(path, Root).generic_string(), {}, {}};
@@ -47,7 +53,7 @@ SourceFile Read(const fs::path& path) {
 const std::vector<SourceFile>& AllFiles() {
   static const std::vector<SourceFile> files = [] {
     std::vector<SourceFile> all;
-    for (const char* folder : {"src", "orec", "tests", "e2e", "bench", "fuzz"}) {
+    for (const char* folder : {"src", "orec", "tests", "e2e", "bench", "fuzz", "languages"}) {
       if (!fs::exists(Root / folder)) continue;
       for (const auto& entry : fs::recursive_directory_iterator(Root / folder)) {
         const std::string extension = entry.path().extension().string();
@@ -120,15 +126,26 @@ TEST(SourceTree, NoFileIncludesAHigherLayer) {
   }
 }
 
+// The file of ours that a file means by a name in quotes, as its path from the root; empty if there
+// is none with that letter case.
+std::string Included(const SourceFile& file, const std::string& name) {
+  static const std::set<std::string> paths = [] {
+    std::set<std::string> all;
+    for (const SourceFile& each : AllFiles()) all.insert(each.path);
+    return all;
+  }();
+  const std::string beside = fs::path(file.path).parent_path().generic_string() + "/" + name;
+  for (const std::string& path : {"src/" + name, name, beside}) {
+    if (paths.count(path)) return path;
+  }
+  return "";
+}
+
 TEST(SourceTree, EveryIncludedFileOfOursIsThereWithThatLetterCase) {
-  std::set<std::string> paths;
-  for (const SourceFile& file : AllFiles()) paths.insert(file.path);
   const std::string generated = "app/Addresses.h";
   for (const SourceFile& file : AllFiles()) {
     for (const std::string& name : file.quoted) {
-      const std::string beside = fs::path(file.path).parent_path().generic_string() + "/" + name;
-      EXPECT_TRUE(paths.count("src/" + name) || paths.count(name) || paths.count(beside) ||
-                  name == generated)
+      EXPECT_TRUE(!Included(file, name).empty() || name == generated)
           << file.path << " includes " << name;
     }
   }
@@ -138,7 +155,7 @@ TEST(SourceTree, IncludesFormNoCircle) {
   std::map<std::string, std::vector<std::string>> includes;
   for (const SourceFile& file : AllFiles()) {
     for (const std::string& name : file.quoted) {
-      includes[file.path].push_back(IsIn(name, "tests") ? name : "src/" + name);
+      includes[file.path].push_back(Included(file, name));
     }
   }
   std::set<std::string> finished;
@@ -198,9 +215,7 @@ TEST(SourceTree, TheProgramKnowsItsMachineByTheSharedHeadersAlone) {
 TEST(SourceTree, NoConditionOnTheMachineStandsOutsideOfIt) {
   for (const SourceFile& file : AllFiles()) {
     if (!IsIn(file.path, "src") || IsIn(file.path, "src/platform/win32")) continue;
-    std::ifstream stream(Root / file.path);
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
-    EXPECT_FALSE(Text::Contains(text, "_WIN32")) << file.path;
+    EXPECT_FALSE(Text::Contains(TextOf(file.path), "_WIN32")) << file.path;
   }
 }
 
@@ -221,10 +236,25 @@ TEST(SourceTree, NoHeaderIsCalledLikeOneOfTheSystem) {
 TEST(SourceTree, EveryHeaderIsGuarded) {
   for (const SourceFile& file : AllFiles()) {
     if (!file.path.ends_with(".h")) continue;
-    std::ifstream stream(Root / file.path);
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
-    EXPECT_TRUE(Text::Contains(text, "#pragma once")) << file.path;
+    EXPECT_TRUE(Text::Contains(TextOf(file.path), "#pragma once")) << file.path;
   }
+}
+
+// A table that is not listed would never reach the translators.
+TEST(SourceTree, EveryTableOfTextsIsListedForTheTranslators) {
+  const std::string list = "src/app/LanguageTemplate.cpp";
+  const std::regex table("constexpr \\w+TextTable (\\w+);");
+  int tables = 0;
+  for (const SourceFile& file : AllFiles()) {
+    if (!IsIn(file.path, "src")) continue;
+    const std::string text = TextOf(file.path);
+    for (std::sregex_iterator found(text.begin(), text.end(), table), end; found != end; ++found) {
+      const std::string name = (*found)[1];
+      EXPECT_TRUE(Text::Contains(TextOf(list), "  add(" + name + ");")) << name;
+      ++tables;
+    }
+  }
+  EXPECT_GT(tables, 5);
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ const std::string LanguageFile = "C:\\Program Files\\SK2Pack\\sk2pack.lng";
 
 class LanguageTemplateStory : public Story {};
 
-TEST_F(LanguageTemplateStory, IsWhatTheProgramMakesOfAnEmptyFile) {
+TEST_F(LanguageTemplateStory, IsTheFileThatLookingUpAllTextsMakes) {
   for (const LangText& text : AllTexts()) GetLangString(text);
   EXPECT_EQ(machine.files.Text(LanguageFile), LanguageTemplate());
 }

@@ -1,9 +1,13 @@
 // Stories that begin with the started pack and an installed game.
 #pragma once
 
+#include <algorithm>
 #include <string>
 
+#include "app/LanguageTemplate.h"
+#include "app/Program.h"
 #include "app/Start.h"
+#include "base/Text.h"
 #include "platform/Forms.h"
 #include "tests/Story.h"
 
@@ -14,10 +18,30 @@ class PackStory : public Story {
 
   PackStory() { machine.InstallGame(Game); }
 
+  void StartPack() {
+    hasStarted_ = true;
+    ::StartPack();
+  }
+
   // Ends at the test's end: every way must lead back to a window of the pack, or out of it.
   ~PackStory() override {
-    if (!Platform::HasProgramEnded() && Platform::ActiveForm()) {
-      EXPECT_TRUE(Platform::ActiveForm()->IsVisible()) << "no window of the pack is on the screen";
+    if (!hasStarted_) return;
+    ExpectAppendedTextsToBeListed();
+    if (Platform::HasProgramEnded()) return;
+    EXPECT_THAT(machine.screen.Titles(), testing::SizeIs(1)) << "not one window is on the screen";
+    EXPECT_TRUE(Platform::ActiveForm() && Platform::ActiveForm()->IsVisible());
+  }
+
+ private:
+  // What the program has written into the language file is what translators get.
+  void ExpectAppendedTextsToBeListed() const {
+    const auto listed = Text::Split(LanguageTemplate(), "\r\n");
+    const std::string file = Program::PathBesideProgram(".lng");
+    for (const std::string& line : Text::Split(machine.files.Appended(file), "\r\n")) {
+      EXPECT_TRUE(std::count(listed.begin(), listed.end(), line))
+          << "not for translators: " << line;
     }
   }
+
+  bool hasStarted_ = false;
 };

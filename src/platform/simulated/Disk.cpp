@@ -88,6 +88,11 @@ void Disk::Delete(const std::string& path) {
   Erase(path);
 }
 
+std::string Disk::Appended(const std::string& path) const {
+  const DiskEntry* file = Find(path);
+  return file ? file->appended : "";
+}
+
 std::string Disk::Text(const std::string& path) const {
   const DiskEntry* file = Find(path);
   if (file && !file->isFolder) return BytesOf(*file);

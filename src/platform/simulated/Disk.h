@@ -24,6 +24,7 @@ struct DiskEntry : std::enable_shared_from_this<DiskEntry> {
   std::string path;  // as it was made, letter case kept
   bool isFolder = false;
   std::string bytes;
+  std::string appended;  // what the program has added at its end, in one go or several
   std::string hostPath;  // where the bytes are read from instead, if not empty
   int attributes = NoAttributes;
   uint64_t lastWrite = 0;
@@ -54,6 +55,8 @@ class Disk {
   bool Exists(const std::string& path) const { return Find(path) != nullptr; }
   // The bytes of a file that must exist.
   std::string Text(const std::string& path) const;
+  // What the program has appended to a file; empty if there is none.
+  std::string Appended(const std::string& path) const;
   // The names in a folder, sorted without regard to letter case.
   std::vector<std::string> Names(const std::string& folder) const;
 

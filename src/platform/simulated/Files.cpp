@@ -117,6 +117,7 @@ void AppendToFile(const std::string& path, std::string_view bytes) {
   TheDisk().CountWrite(path);
   const DiskEntry* file = TheDisk().Find(path);
   PutInPlace(path, (file ? BytesOf(*file) : "").append(bytes));
+  TheDisk().Find(path)->appended.append(bytes);
 }
 
 bool RemoveFile(const std::string& path) {
