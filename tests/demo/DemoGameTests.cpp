@@ -3,7 +3,9 @@
 #include <filesystem>
 #include <string>
 
+#include "base/Text.h"
 #include "records/RecordChecker.h"
+#include "records/RecordFile.h"
 #include "tests/Story.h"
 #include "tracks/TrackChecker.h"
 #include "vehicles/VehicleChecker.h"
@@ -14,22 +16,25 @@ namespace fs = std::filesystem;
 using testing::SizeIs;
 
 const std::string Game = "C:\\Games\\Skidrun2";
+const fs::path Demo = fs::path(SK2_SOURCE_DIR) / "demo";
 
 class DemoGame : public Story {
  protected:
   void SetUp() override {
     Story::SetUp();
     machine.InstallGame(Game);
-    const fs::path demo = fs::path(SK2_SOURCE_DIR) / "demo";
-    for (const auto& entry : fs::recursive_directory_iterator(demo)) {
-      std::string path = Game + "\\" + fs::relative(entry.path(), demo).string();
-      for (char& c : path) c = c == '/' ? '\\' : c;
+    for (const auto& entry : fs::recursive_directory_iterator(Demo)) {
       if (entry.is_directory()) {
-        machine.files.PutFolder(path);
+        machine.files.PutFolder(InGame(entry));
       } else {
-        machine.files.MountHostFile(path, entry.path().string());
+        machine.files.MountHostFile(InGame(entry), entry.path().string());
       }
     }
+  }
+
+  // Where a file of the demo lies on the machine.
+  static std::string InGame(const fs::path& path) {
+    return Game + "\\" + Text::Replace(fs::relative(path, Demo).string(), "/", "\\");
   }
 
   static std::string VehicleReport(const std::string& file) {
@@ -71,18 +76,27 @@ TEST_F(DemoGame, RecordsAreGoodAndEachIsOfATrackOfTheGame) {
   EXPECT_EQ(CheckRecordFile(Game + "\\highscore.cfg", message), 0) << message;
   EXPECT_EQ(machine.files.Text(Game + "\\highscore.cfg"),
             "hill=72345\r\ncoast=125500\r\nadvharbour=3723004\r\n");
+  for (const std::string& record : RecordFile::Read()) {
+    const std::string track = RecordFile::TrackOf(record).value_or("");
+    EXPECT_TRUE(machine.files.Exists(Game + "\\tracks\\" + track + ".trk")) << record;
+  }
 }
 
 // What changes line ends on the way into a checked-out tree would change what the files mean.
 TEST_F(DemoGame, LinesEndAsTheGameWritesThem) {
-  for (const char* file : {"\\tracks\\hill.trk", "\\tracks\\broken.trk", "\\highscore.cfg",
-                           "\\Skidrun.cfg", "\\vehicles\\Hornet\\Hornet.vhc"}) {
-    const std::string text = machine.files.Text(Game + file);
+  int files = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(Demo)) {
+    const std::string extension = entry.path().extension().string();
+    if (extension != ".trk" && extension != ".vhc" && extension != ".cfg") continue;
+    ++files;
+    const std::string text = machine.files.Text(InGame(entry));
     const auto lines = std::count(text.begin(), text.end(), '\n');
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), lines) << file;
-    EXPECT_EQ(text.find("\n\r"), std::string::npos) << file;
-    EXPECT_TRUE(text.ends_with("\r\n")) << file;
+    EXPECT_GT(lines, 0) << entry;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), lines) << entry;
+    EXPECT_EQ(text.find("\n\r"), std::string::npos) << entry;
+    EXPECT_TRUE(text.ends_with("\r\n")) << entry;
   }
+  EXPECT_EQ(files, 9) << "three vehicles, four tracks, records and configuration";
 }
 
 }  // namespace
