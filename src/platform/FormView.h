@@ -19,8 +19,9 @@ class FormView {
   ~FormView();
 
   // Shows the window, active and with the focus on the form's focused control; a window without
-  // controls has the focus itself.
-  void Show();
+  // controls has the focus itself. The first time it opens over another window, on the screen of
+  // that one; null if there is none.
+  void Show(FormView* over);
   void Hide();
 
   // Shows the window over its owner, which takes no input meanwhile, and handles events until

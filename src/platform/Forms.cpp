@@ -81,7 +81,7 @@ void Stage::Put(Form& form) {
   // The new window is shown before the old one goes, so that no other program comes between them.
   current = &form;
   form.isVisible_ = true;
-  form.view_->Show();
+  form.view_->Show(previous ? previous->view() : nullptr);
   if (previous) {
     previous->isVisible_ = false;
     if (previous->view_) previous->view_->Hide();

@@ -7,6 +7,10 @@
 #include "tests/platform/RealMachine.h"
 #include "tests/platform/TestMachine.h"
 
+bool operator==(const RECT& one, const RECT& other) {
+  return EqualRect(&one, &other);
+}
+
 namespace {
 
 using namespace Platform;
@@ -54,6 +58,16 @@ class WindowTest : public ContractTest {
     GetWindowRect(child, &rect);
     MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&rect), 2);
     return rect;
+  }
+
+  static RECT RectOf(HWND window) {
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    return rect;
+  }
+  // The window comes to a screen of another density.
+  static void ChangeDpi(HWND window, UINT dpi, RECT suggested) {
+    SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
   }
 
   static int DefaultButtonsOf(HWND window) {
@@ -178,19 +192,80 @@ TEST_F(WindowTest, OnADenserScreenTheWindowIsLaidOutAnew) {
   const HWND edit = FindWindowExA(window, nullptr, "Edit", nullptr);
   const LONG before = PlaceOf(edit).bottom - PlaceOf(edit).top;
   const UINT dpi = Display::DpiOf(window);
-  RECT suggested{};
-  GetWindowRect(window, &suggested);
+  RECT suggested = RectOf(window);
   suggested.right += suggested.right - suggested.left;
   suggested.bottom += suggested.bottom - suggested.top;
-  SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(2 * dpi, 2 * dpi),
-               reinterpret_cast<LPARAM>(&suggested));
-  RECT now{};
-  GetWindowRect(window, &now);
-  EXPECT_EQ(now.left, suggested.left);
-  EXPECT_GE(now.right, suggested.right);
+  ChangeDpi(window, 2 * dpi, suggested);
+  EXPECT_EQ(RectOf(window).left, suggested.left);
+  EXPECT_GE(RectOf(window).right, suggested.right);
   EXPECT_NEAR(PlaceOf(edit).bottom - PlaceOf(edit).top, 2 * before, 4);
   ExpectNothingCut(window);
   ExpectReadingOrder(window);
+}
+
+TEST_F(WindowTest, BackOnALessDenseScreenTheWindowIsAsSmallAsItWas) {
+  tool.Show();
+  const HWND window = WindowOf(tool);
+  const RECT before = RectOf(window);
+  const UINT dpi = Display::DpiOf(window);
+  RECT larger = before;
+  larger.right += 300;
+  larger.bottom += 300;
+  ChangeDpi(window, dpi + dpi / 2, larger);
+  ChangeDpi(window, dpi, before);
+  EXPECT_EQ(RectOf(window), before);
+  ExpectNothingCut(window);
+  ExpectReadingOrder(window);
+}
+
+TEST_F(WindowTest, AWindowThatFilledTheScreenIsRestoredToItsSize) {
+  tool.Show();
+  const HWND window = WindowOf(tool);
+  const RECT before = RectOf(window);
+  ShowWindow(window, SW_MAXIMIZE);
+  tool.Submit.SetCaption("Okay");
+  SendMessageA(window, WM_SETTINGCHANGE, SPI_SETNONCLIENTMETRICS, 0);
+  EXPECT_TRUE(IsZoomed(window));
+  ExpectNothingCut(window);
+  ShowWindow(window, SW_RESTORE);
+  EXPECT_EQ(RectOf(window), before);
+  ExpectReadingOrder(window);
+}
+
+TEST_F(WindowTest, AWindowGrowsWhenItIsRestoredIfItsTextsHaveGrownMeanwhile) {
+  const std::string longer = "A caption that is much longer than the one that was here before it";
+  for (const int command : {SW_MAXIMIZE, SW_MINIMIZE}) {
+    tool.Unload();
+    tool.Show();
+    const HWND window = WindowOf(tool);
+    ShowWindow(window, command);
+    const RECT meanwhile = RectOf(window);
+    tool.Submit.SetCaption(longer);
+    tool.Ccl.SetCaption(longer + " too");
+    EXPECT_EQ(RectOf(window), meanwhile);
+    ShowWindow(window, SW_RESTORE);
+    RealMachine::Pump();
+    ExpectNothingCut(window);
+    ExpectReadingOrder(window);
+  }
+}
+
+TEST_F(WindowTest, AWindowOpensOverTheOneInUse) {
+  Tool next;
+  tool.Show();
+  tool.Leave();
+  const auto middleOf = [](HWND window) {
+    const RECT rect = RectOf(window);
+    return POINT{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+  };
+  const HWND window = WindowOf(main);
+  const RECT before = RectOf(window);
+  constexpr int Aside = 100;  // so little that the next one has room there
+  SetWindowPos(window, nullptr, before.left + Aside, before.top - Aside, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER);
+  next.Show();
+  EXPECT_NEAR(middleOf(WindowOf(next)).x, middleOf(window).x, 1);
+  EXPECT_NEAR(middleOf(WindowOf(next)).y, middleOf(window).y, 1);
 }
 
 TEST_F(WindowTest, TheFocusIsWhereItWasWhenTheUserComesBack) {

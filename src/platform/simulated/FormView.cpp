@@ -32,7 +32,7 @@ FormView::~FormView() {
   std::erase(Simulated::TheMachine().screen.windows, native_.get());
 }
 
-void FormView::Show() {
+void FormView::Show(FormView*) {
   native_->isShown = true;
   native_->Check();
 }
@@ -47,10 +47,10 @@ void FormView::Hide() {
   }
 }
 
-void FormView::RunModal(FormView*) {
+void FormView::RunModal(FormView* owner) {
   const auto action = NextModalAction(native_->form);
   native_->isModalLoopRunning = true;
-  Show();
+  Show(owner);
   action();
   if (native_->isModalLoopRunning) {
     Simulated::Complain("the window stayed open: " + native_->form.title());

@@ -32,12 +32,6 @@ Layout::Size RoomFor(HWND window, const RECT& area) {
   return {size.width - static_cast<int>(frame.cx), size.height - static_cast<int>(frame.cy)};
 }
 
-// The window that was shown last: the next opens over it.
-HWND& LastShown() {
-  static HWND window = nullptr;
-  return window;
-}
-
 // A window of that size in the middle of another rectangle, but wholly within the area.
 POINT Centred(SIZE size, const RECT& over, const RECT& area) {
   const LONG x = over.left + (over.right - over.left - size.cx) / 2;
@@ -62,22 +56,23 @@ Layout::Font FormView::Native::LayoutFont() const {
           [this](const std::string& text, int width) { return font_->Measure(text, width); }};
 }
 
-void FormView::Native::OpenAtItsPlace() {
-  const HWND neighbour = IsWindowVisible(LastShown()) ? LastShown() : nullptr;
-  const RECT area = Display::WorkArea(neighbour ? neighbour : window_);
-  RECT over = area;
-  if (neighbour && !IsIconic(neighbour)) GetWindowRect(neighbour, &over);
-  LastShown() = window_;
-
+Layout::Size FormView::Native::Measure() {
   const Layout::Font font = LayoutFont();
-  Layout::Size client{font.units.Across(BareWidth), font.units.Down(BareHeight)};
-  if (!controls_.empty()) {
-    const int titleWidth = font_->Width(form_.title()) + font.units.Across(TitleBarRest);
-    client = Layout::PreferredSize(LayoutItems(), font, titleWidth, RoomFor(window_, area));
-    leastSize_ = Layout::LeastSize(LayoutItems(), font, client.width);
-  }
-  const SIZE size = Display::WithFrame(window_, client);
-  const POINT place = Centred(size, over, area);
+  if (controls_.empty()) return {font.units.Across(BareWidth), font.units.Down(BareHeight)};
+  const std::vector<Layout::Item> items = LayoutItems();
+  const int titleWidth = font_->Width(form_.title()) + font.units.Across(TitleBarRest);
+  const Layout::Size room = RoomFor(window_, Display::WorkArea(window_));
+  const Layout::Size preferred = Layout::PreferredSize(items, font, titleWidth, room);
+  leastSize_ = Layout::LeastSize(items, font, preferred.width);
+  return preferred;
+}
+
+void FormView::Native::OpenAtItsPlace(HWND over) {
+  const RECT area = Display::WorkArea(over ? over : window_);
+  RECT middle = area;
+  if (over && !IsIconic(over)) GetWindowRect(over, &middle);
+  const SIZE size = Display::WithFrame(window_, Measure());
+  const POINT place = Centred(size, middle, area);
   isLaidOut_ = true;
   SetWindowPos(window_, nullptr, place.x, place.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
   PlaceControls();
@@ -97,24 +92,35 @@ void FormView::Native::PlaceControls() {
 
 void FormView::Native::LayOutAgain() {
   if (!isLaidOut_ || controls_.empty()) return;
+  Measure();
+  // It has a size of its own to grow from only when it is neither an icon nor fills the screen.
+  isGrowthPutOff_ = IsIconic(window_) || IsZoomed(window_);
+  if (!isGrowthPutOff_) Grow();
+  if (!IsIconic(window_)) PlaceControls();
+}
+
+void FormView::Native::Grow() {
   const Layout::Size client = ClientSizeOf(window_);
-  const RECT area = Display::WorkArea(window_);
-  const Layout::Font font = LayoutFont();
-  const Layout::Size wanted =
-      Layout::PreferredSize(LayoutItems(), font, client.width, RoomFor(window_, area));
-  leastSize_ = Layout::LeastSize(LayoutItems(), font, wanted.width);
-  if (wanted.width > client.width || leastSize_.height > client.height) {
-    RECT now{};
-    GetWindowRect(window_, &now);
-    const SIZE size =
-        Display::WithFrame(window_, {wanted.width, std::max(client.height, leastSize_.height)});
-    // It stays where it is, unless it would leave the screen.
-    const RECT grown{now.left, now.top, now.left + size.cx, now.top + size.cy};
-    const POINT place = Centred(size, grown, area);
-    SetWindowPos(window_, nullptr, place.x, place.y, size.cx, size.cy,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+  if (client.width >= leastSize_.width && client.height >= leastSize_.height) return;
+  RECT now{};
+  GetWindowRect(window_, &now);
+  const SIZE size = Display::WithFrame(window_, {std::max(client.width, leastSize_.width),
+                                                 std::max(client.height, leastSize_.height)});
+  // It stays where it is, unless it would leave the screen.
+  const RECT grown{now.left, now.top, now.left + size.cx, now.top + size.cy};
+  const POINT place = Centred(size, grown, Display::WorkArea(window_));
+  SetWindowPos(window_, nullptr, place.x, place.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormView::Native::MoveToScreen(UINT dpi, const RECT& suggested) {
+  ChangeFont(dpi);
+  // What the old font needed must not keep the window from the size that is suggested.
+  if (isLaidOut_) Measure();
+  if (!IsIconic(window_)) {
+    SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
   }
-  PlaceControls();
+  LayOutAgain();
 }
 
 void FormView::Native::ChangeFont(UINT dpi) {

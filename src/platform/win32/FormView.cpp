@@ -8,8 +8,8 @@ namespace Platform {
 FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {}
 FormView::~FormView() = default;
 
-void FormView::Show() {
-  native_->Show();
+void FormView::Show(FormView* over) {
+  native_->Show(over ? over->native_->window() : nullptr);
 }
 void FormView::Hide() {
   native_->Hide();
@@ -25,6 +25,7 @@ void FormView::EndModal() {
 
 void FormView::TitleChanged() {
   native_->ShowTitle();
+  native_->LayOutAgain();
 }
 void FormView::MenuChanged() {
   native_->ShowMenu();

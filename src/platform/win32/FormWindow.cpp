@@ -138,8 +138,8 @@ ControlWindow& FormView::Native::Of(const Control& control) {
                        [&](const ControlWindow& child) { return &child.control() == &control; });
 }
 
-void FormView::Native::Show() {
-  if (!isLaidOut_) OpenAtItsPlace();
+void FormView::Native::Show(HWND over) {
+  if (!isLaidOut_) OpenAtItsPlace(over);
   ShowWindow(window_, IsIconic(window_) ? SW_RESTORE : SW_SHOW);
 }
 
@@ -157,7 +157,7 @@ void FormView::Native::RunModal(HWND owner) {
                       GetWindowLongPtrA(window_, GWL_EXSTYLE) & ~LONG_PTR{WS_EX_APPWINDOW});
     wasOwnerEnabled = EnableWindow(owner, FALSE) == 0;
   }
-  Show();
+  Show(owner);
   HandleMessagesUntil([this] { return isModalOver_; });
   // First the owner, then away with the window: otherwise another program would be activated.
   if (wasOwnerEnabled) EnableWindow(owner, TRUE);
@@ -248,7 +248,12 @@ std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPA
       RestoreFocus();
       return 0;
     case WM_SIZE:
-      if (wParam != SIZE_MINIMIZED && isLaidOut_) PlaceControls();
+      if (wParam == SIZE_MINIMIZED || !isLaidOut_) return std::nullopt;
+      if (isGrowthPutOff_) {
+        LayOutAgain();
+      } else {
+        PlaceControls();
+      }
       return std::nullopt;
     case WM_GETMINMAXINFO: {
       if (!isLaidOut_) return std::nullopt;
@@ -256,14 +261,9 @@ std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPA
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {least.cx, least.cy};
       return 0;
     }
-    case WM_DPICHANGED: {
-      ChangeFont(HIWORD(wParam));
-      const RECT& rect = *reinterpret_cast<const RECT*>(lParam);
-      SetWindowPos(window_, nullptr, rect.left, rect.top, rect.right - rect.left,
-                   rect.bottom - rect.top, SWP_NOZORDER | SWP_NOACTIVATE);
-      LayOutAgain();
+    case WM_DPICHANGED:
+      MoveToScreen(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
-    }
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
       RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);

@@ -33,7 +33,8 @@ struct FormView::Native {
   ControlWindow& Of(const Control& control);
   const Display::Font& font() const { return *font_; }
 
-  void Show();
+  // The first time it opens over another window; null opens it in the middle of the screen.
+  void Show(HWND over);
   void Hide();
   void RunModal(HWND owner);
   void EndModal();
@@ -64,7 +65,13 @@ struct FormView::Native {
 
   std::vector<Layout::Item> LayoutItems() const;
   Layout::Font LayoutFont() const;
-  void OpenAtItsPlace();
+  // Takes the least size from the controls and the title. Returns the size to open with.
+  Layout::Size Measure();
+  void OpenAtItsPlace(HWND over);
+  // Makes the window at least as large as its least size.
+  void Grow();
+  // The window has come to a screen of another density.
+  void MoveToScreen(UINT dpi, const RECT& suggested);
   void PlaceControls();
 
   Form& form_;
@@ -75,6 +82,7 @@ struct FormView::Native {
   std::unique_ptr<MenuBar> menuBar_;
   Layout::Size leastSize_;
   bool isLaidOut_ = false;
+  bool isGrowthPutOff_ = false;  // until it is restored
   bool isFocusMoved_ = true;  // the form has moved the focus, and the window has not followed yet
   bool isWritingText_ = false;
   bool isModalOver_ = false;
