@@ -23,21 +23,21 @@ apt() {
     -o Dpkg::Use-Pty=0 "$@"
 }
 
-# Installs packages without starting their services, now or when the machine starts.
-install_quietly() {
-  local policy=/usr/sbin/policy-rc.d status=0 own_policy=
+# Installs packages without starting their services, now or when the machine starts. In a shell of
+# its own, which gives the machine its own policy back however it ends.
+install_quietly() (
+  policy=/usr/sbin/policy-rc.d
   apt update || return 1
   if [ ! -e "$policy" ]; then
-    own_policy=1
-    printf '#!/bin/sh\nexit 101\n' | as_root tee "$policy" && as_root chmod +x "$policy"
+    trap 'as_root rm -f "$policy"' EXIT
+    printf '#!/bin/sh\nexit 101\n' | as_root tee "$policy"
+    as_root chmod +x "$policy"
   fi
-  apt install --yes --no-remove --no-install-recommends "$@" || status=1
-  [ -z "$own_policy" ] || as_root rm "$policy"
+  apt install --yes --no-remove --no-install-recommends "$@" || return 1
   if [ -d /run/systemd/system ] && [[ " $* " == *" nginx-light "* ]]; then
-    as_root systemctl --quiet disable nginx || status=1
+    as_root systemctl --quiet disable nginx
   fi
-  return "$status"
-}
+)
 
 # install_packages NAME...: installs those that are not there; asks apt for nothing if all are.
 install_packages() {
