@@ -9,6 +9,7 @@ namespace E2e {
 namespace {
 
 using testing::Contains;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
 
@@ -89,10 +90,31 @@ TEST_F(Accessibility, N6DisabledText) {
   EXPECT_THAT(Broken(), Contains(StartsWith("N6")));
 }
 
+TEST_F(Accessibility, N6TextAfterAGroupBox) {
+  Add("BUTTON", "Server", BS_GROUPBOX, 0, 280);
+  EXPECT_THAT(Broken(), IsEmpty());
+  Add("STATIC", "What this is for", 0, 0, 310);
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("N6")));
+}
+
 TEST_F(Accessibility, N8ReadOnlyTextWithoutATabStop) {
   Add("STATIC", "Time:", 0, 0, 280);
   Add("EDIT", "1 minute", WS_BORDER | ES_READONLY, 103, 310);
   EXPECT_THAT(Broken(), Contains(StartsWith("N8")));
+}
+
+TEST_F(Accessibility, K1WindowThatIsNoDialog) {
+  const HWND window = CreateWindowExA(0, "STATIC", "Rules", WS_OVERLAPPEDWINDOW, 40, 40, 400, 400,
+                                      nullptr, nullptr, nullptr, nullptr);
+  for (const HWND control : {nameLabel_, name_, listLabel_, list_, ok_, cancel_}) {
+    SetParent(control, window);
+    // The last one becomes the first in order.
+    SetWindowPos(control, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  }
+  ShowWindow(window, SW_SHOW);
+  SetFocus(name_);
+  EXPECT_THAT(BrokenRules(Window(window)), ElementsAre(StartsWith("K1")));
+  DestroyWindow(window);
 }
 
 TEST_F(Accessibility, K2ControlWithoutATabStop) {
@@ -143,6 +165,30 @@ TEST_F(Accessibility, F1FocusedBoxDisabled) {
   EXPECT_THAT(Broken(), Contains(StartsWith("F1")));
 }
 
+TEST_F(Accessibility, F1NothingHasTheFocus) {
+  SetFocus(nullptr);
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("F1")));
+}
+
+TEST(AccessibilityOfEmptyWindows, F6WindowWithoutTheFocus) {
+  const HWND window = CreateWindowExA(0, "STATIC", "Recording", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                      40, 40, 400, 400, nullptr, nullptr, nullptr, nullptr);
+  const HWND helper =
+      CreateWindowExA(0, "EDIT", "", WS_CHILD, 0, 0, 10, 10, window, nullptr, nullptr, nullptr);
+  SetFocus(window);
+  EXPECT_THAT(BrokenRules(Window(window)), IsEmpty());
+  SetFocus(helper);
+  EXPECT_THAT(BrokenRules(Window(window)), ElementsAre(StartsWith("F6")));
+  DestroyWindow(window);
+}
+
+TEST_F(Accessibility, L1ListThatCannotBeScrolled) {
+  for (int i = 0; i < 50; i++) SendMessageA(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("x"));
+  EXPECT_THAT(Broken(), IsEmpty());
+  RemoveStyle(list_, WS_VSCROLL);
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("L1")));
+}
+
 TEST_F(Accessibility, L1ListThatTellsNothing) {
   RemoveStyle(list_, LBS_NOTIFY);
   EXPECT_THAT(Broken(), Contains(StartsWith("L1")));
@@ -151,6 +197,49 @@ TEST_F(Accessibility, L1ListThatTellsNothing) {
 TEST_F(Accessibility, V3CutCaption) {
   MoveWindow(cancel_, 10, 240, 20, 24, TRUE);
   EXPECT_THAT(Broken(), Contains(StartsWith("V3")));
+}
+
+// A message box of this very program: a text and OK.
+class BoxAccessibility : public testing::Test {
+ protected:
+  void SetUp() override {
+    box_ = CreateWindowExA(0, "#32770", "Notice", WS_OVERLAPPEDWINDOW, 40, 40, 400, 200, nullptr,
+                           nullptr, nullptr, nullptr);
+    text_ = Add("STATIC", "Tools & Toys", SS_NOPREFIX, 10);
+    ok_ = Add("BUTTON", "OK", WS_TABSTOP | BS_DEFPUSHBUTTON, 60);
+    ShowWindow(box_, SW_SHOW);
+    SetFocus(ok_);
+  }
+  void TearDown() override { DestroyWindow(box_); }
+
+  HWND Add(const char* className, const char* text, DWORD style, int top) {
+    return CreateWindowExA(0, className, text, WS_CHILD | WS_VISIBLE | style, 10, top, 200, 24,
+                           box_, nullptr, nullptr, nullptr);
+  }
+  std::vector<std::string> Broken() const { return BrokenBoxRules(Window(box_)); }
+
+  HWND box_ = nullptr;
+  HWND text_ = nullptr;
+  HWND ok_ = nullptr;
+};
+
+TEST_F(BoxAccessibility, GoodBoxBreaksNothing) {
+  EXPECT_THAT(Broken(), IsEmpty());
+}
+
+TEST_F(BoxAccessibility, N4BoxWithoutATitle) {
+  SetWindowTextA(box_, "");
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("N4")));
+}
+
+TEST_F(BoxAccessibility, N7SwallowedAmpersand) {
+  SetWindowLongPtrA(text_, GWL_STYLE, GetWindowLongPtrA(text_, GWL_STYLE) & ~SS_NOPREFIX);
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("N7")));
+}
+
+TEST_F(BoxAccessibility, F1NoButtonHasTheFocus) {
+  SetFocus(Add("EDIT", "", WS_TABSTOP, 100));
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("F1")));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // Escape leaves from everywhere.
 #include <algorithm>
 
+#include "e2e/Openings.h"
 #include "e2e/driver/Keyboard.h"
 #include "e2e/driver/PackTest.h"
 
@@ -19,61 +20,6 @@ std::vector<Window> TabStops(const Window& window) {
 
 void WaitForFocus(const Window& window, const Window& control) {
   WaitUntil("the focus on \"" + control.name() + "\"", [&] { return window.focus() == control; });
-}
-
-struct Opening {
-  const char* title;
-  std::function<void(Pack&)> open;   // from the main window
-  std::function<void(Pack&)> leave;  // from where Escape leads, back to the main window
-};
-
-void PrintTo(const Opening& opening, std::ostream* out) {
-  *out << opening.title;
-}
-
-void OpenTrackEditor(Pack& pack) {
-  pack.ChooseMenu({"Track", "New"});
-  pack.ChooseFile("keyboard");
-  pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
-}
-
-void WaitForMainWindow(Pack& pack) {
-  pack.WaitForMain();
-}
-
-std::vector<Opening> Openings() {
-  const auto press = [](const char* keys) { return [keys](Pack& pack) { pack.Press(keys); }; };
-  return {
-      {"New what?", press("Ctrl+N"), WaitForMainWindow},
-      {"Package what?", press("Ctrl+P"), WaitForMainWindow},
-      {"Check what?", press("Ctrl+C"), WaitForMainWindow},
-      {"Record Viewer",
-       [](Pack& pack) {
-         pack.ChooseMenu({"Game", "Record Viewer"});
-       },
-       WaitForMainWindow},
-      {"SK2 Trackmaker by Orvane Interactive", OpenTrackEditor, WaitForMainWindow},
-      {"New track part",
-       [](Pack& pack) {
-         OpenTrackEditor(pack);
-         pack.Press("Ctrl+Shift+N");
-       },
-       [](Pack& pack) {
-         pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
-         pack.Press("Escape");
-         pack.WaitForMain();
-       }},
-      {"Parts",
-       [](Pack& pack) {
-         pack.ChooseMenu({"Track", "Random Track"});
-         pack.ChooseFile("keyboard");
-         pack.AnswerBox("N");
-       },
-       [](Pack& pack) {
-         pack.AnswerBox();
-         pack.WaitForMain();
-       }},
-  };
 }
 
 class Keys : public PackTest, public testing::WithParamInterface<Opening> {
@@ -123,14 +69,32 @@ TEST_P(Keys, EscapeLeavesFromEachControl) {
   }
 }
 
+TEST_P(Keys, TheAccessKeyOfALabelMovesTheFocusToItsControl) {
+  // The English labels have none, those of a translation may.
+  WriteFile(PutProgramFolder() + "\\sk2pack.lng",
+            "NewWhatPrompt=&New:\r\nPackageWhatPrompt=&Package:\r\nCheckWhatText=&Check:\r\n"
+            "TracksPrompt=Select a &track:\r\nTimePrompt=T&ime:\r\nTrackViewer=Track &Viewer\r\n"
+            "LengthPrompt=&Length:\r\nSurfacePrompt=&Surface:\r\nCurvePrompt=&Curve:\r\n"
+            "TrackPartsQuestionText=&How many?\r\n");
+  const Window window = Open();
+  int keys = 0;
+  for (const Window& control : TabStops(window)) {
+    if (control.IsClass("Button")) continue;
+    if (window.focus() == control) {
+      Keyboard::Press("Tab");
+      WaitUntil("the focus moved by Tab", [&] { return !(window.focus() == control); });
+    }
+    const auto label = control.previousSibling();
+    ASSERT_TRUE(label && AccessKey(label->text())) << control.name();
+    Keyboard::Press(std::string("Alt+") + AccessKey(label->text()));
+    WaitForFocus(window, control);
+    ++keys;
+  }
+  EXPECT_GT(keys, 0);
+}
+
 INSTANTIATE_TEST_SUITE_P(Windows, Keys, testing::ValuesIn(Openings()),
-                         [](const testing::TestParamInfo<Opening>& opening) {
-                           std::string name;
-                           for (const char c : std::string(opening.param.title)) {
-                             if (std::isalnum(static_cast<unsigned char>(c))) name += c;
-                           }
-                           return name;
-                         });
+                         testing::PrintToStringParamName());
 
 }  // namespace
 }  // namespace E2e

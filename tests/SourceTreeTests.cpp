@@ -257,4 +257,56 @@ TEST(SourceTree, EveryTableOfTextsIsListedForTheTranslators) {
   EXPECT_GT(tables, 5);
 }
 
+// Colours are the user's own, high contrast included.
+TEST(SourceTree, TheRealMachineHasNoColoursOfItsOwn) {
+  for (const SourceFile& file : AllFiles()) {
+    if (!IsIn(file.path, "src/platform/win32")) continue;
+    const std::string text = TextOf(file.path);
+    for (const char* colour : {"RGB(", "WM_CTLCOLOR", "CreateSolidBrush", "SetTextColor",
+                               "SetBkColor", "NM_CUSTOMDRAW", "_OWNERDRAW"}) {
+      EXPECT_FALSE(Text::Contains(text, colour)) << file.path << " has " << colour;
+    }
+  }
+}
+
+// What takes the keyboard or the screen away from a screen reader and from other programs.
+TEST(SourceTree, TheProgramTakesNothingFromOthers) {
+  int files = 0;
+  const auto expectNone = [&](const std::string& path) {
+    const std::string text = TextOf(path);
+    EXPECT_NE(text, "") << path;
+    ++files;
+    for (const char* taken : {"TOPMOST", "RegisterHotKey", "SetWindowsHook", "SetForegroundWindow",
+                              "BlockInput", "requireAdministrator", "highestAvailable"}) {
+      EXPECT_FALSE(Text::Contains(text, taken)) << path << " has " << taken;
+    }
+  };
+  for (const SourceFile& file : AllFiles()) {
+    if (IsIn(file.path, "src") || IsIn(file.path, "orec")) expectNone(file.path);
+  }
+  expectNone("resources/sk2pack.manifest");
+  EXPECT_GT(files, 50);
+}
+
+// The rules of accessibility are checked in the windows that the tests of the program can open.
+TEST(SourceTree, EveryWindowIsOneThatTheTestsOfTheProgramOpen) {
+  const std::set<std::string> others = {"Chooser", "SK2UtilityPack"};  // a base, the main window
+  const std::string openings = TextOf("e2e/Openings.cpp");
+  const std::regex window(
+      "class (\\w+) (?:final )?: public (?:Platform::)?(?:Form|Chooser|InputBox)\\b");
+  std::set<std::string> windows;
+  for (const SourceFile& file : AllFiles()) {
+    if (!IsIn(file.path, "src") || IsIn(file.path, "src/platform")) continue;
+    const std::string text = TextOf(file.path);
+    for (std::sregex_iterator found(text.begin(), text.end(), window), end; found != end; ++found) {
+      windows.insert((*found)[1]);
+    }
+  }
+  EXPECT_THAT(windows, testing::IsSupersetOf({"SK2UtilityPack", "NewWhat", "HighScores"}));
+  for (const std::string& name : windows) {
+    if (others.count(name)) continue;
+    EXPECT_TRUE(Text::Contains(openings, "{\"" + name + "\",")) << name << " is not in it";
+  }
+}
+
 }  // namespace

@@ -179,11 +179,11 @@ void CheckLists(const std::vector<Control>& controls, Report& report) {
 
 // The size that a text needs in the system's message font, in which windows are drawn.
 SIZE SizeOf(const std::string& text, int width, UINT format) {
-  NONCLIENTMETRICSA metrics{};
+  NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
-  SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, DrawnDpi());
   const HDC screen = GetDC(nullptr);
-  const HFONT font = CreateFontIndirectA(&metrics.lfMessageFont);
+  const HFONT font = CreateFontIndirectW(&metrics.lfMessageFont);
   const HGDIOBJ before = SelectObject(screen, font);
   RECT box{0, 0, width, 0};
   DrawTextA(screen, text.c_str(), -1, &box, DT_CALCRECT | format);
@@ -207,6 +207,11 @@ void CheckCutTexts(const std::vector<Control>& controls, Report& report) {
 }
 
 }  // namespace
+
+UINT& DrawnDpi() {
+  static UINT dpi = GetDpiForSystem();
+  return dpi;
+}
 
 std::vector<std::string> BrokenRules(const Window& window) {
   Report report;
@@ -235,6 +240,12 @@ std::vector<std::string> BrokenBoxRules(const Window& box) {
   if (box.text().empty()) report.Add("N4", "no title");
   if (const auto focus = box.focus(); !focus || !focus->IsClass("Button")) {
     report.Add("F1", "the focus is on no button");
+  }
+  for (const Window& text : box.controls("Static")) {
+    const bool isShownWhole = (text.style() & SS_NOPREFIX) != 0;
+    if (!isShownWhole && text.text().find('&') != std::string::npos) {
+      report.Add("N7", "\"" + text.text() + "\" loses its \"&\"");
+    }
   }
   return report.lines();
 }

@@ -18,11 +18,17 @@ namespace E2e {
 //   K2 Tab stops where it should                    K3 exactly one default button
 //   K4 Escape has its button                        K5 access keys are unique
 //   K7 those of a menu too                          F1 the focus is on something useful
-//   L1 lists are the system's                       V3 no text is cut
-// The window must be in front and shown completely.
+//   F6 or on the window, if it has no controls      L1 lists are the system's
+//   V3 no text is cut
+// The window must be in front and shown completely, in the density of DrawnDpi.
 std::vector<std::string> BrokenRules(const Window& window);
 
-// The same for a message box, whose insides are the system's: N4 and F1.
+// The density, in dots per inch, in which the checked program draws. At first that of this
+// program's own screen.
+UINT& DrawnDpi();
+
+// The same for a message box, whose insides are the system's: N4, F1, and N7: an "&" in its text is
+// shown as it is.
 std::vector<std::string> BrokenBoxRules(const Window& box);
 
 // The same for the menus of a window alone: K7.

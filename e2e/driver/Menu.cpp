@@ -3,6 +3,7 @@
 #include <memory>
 #include <sstream>
 #include <stdexcept>
+#include <type_traits>
 
 #include "e2e/driver/Keyboard.h"
 #include "e2e/driver/Wait.h"
@@ -18,6 +19,16 @@ std::string ReaderPath() {
   return program.substr(0, program.rfind('\\')) + "\\menureader.dll";
 }
 
+struct HandleCloser {
+  void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+struct ViewCloser {
+  void operator()(char* view) const { UnmapViewOfFile(view); }
+};
+struct HookRemover {
+  void operator()(HHOOK hook) const { UnhookWindowsHookEx(hook); }
+};
+
 // The hook in the window's thread, for as long as this lives.
 class Reader {
  public:
@@ -25,33 +36,27 @@ class Reader {
     static const HMODULE library = LoadLibraryA(ReaderPath().c_str());
     const FARPROC hook = library ? GetProcAddress(library, "ReadMenuHook") : nullptr;
     if (!hook) throw std::runtime_error("cannot load " + ReaderPath());
-    memory_ = CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
-                                 MenuReader::MemorySize, MenuReader::Memory);
-    view_ = static_cast<char*>(MapViewOfFile(memory_, FILE_MAP_ALL_ACCESS, 0, 0, 0));
-    hook_ =
-        SetWindowsHookExA(WH_CALLWNDPROC, reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(hook)),
-                          library, window.threadId());
+    memory_.reset(CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
+                                     MenuReader::MemorySize, MenuReader::Memory));
+    view_.reset(static_cast<char*>(MapViewOfFile(memory_.get(), FILE_MAP_ALL_ACCESS, 0, 0, 0)));
+    hook_.reset(SetWindowsHookExA(WH_CALLWNDPROC,
+                                  reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(hook)),
+                                  library, window.threadId()));
     if (!view_ || !hook_)
       throw std::runtime_error("cannot read the menu of \"" + window.text() + "\"");
   }
-  ~Reader() {
-    UnhookWindowsHookEx(hook_);
-    UnmapViewOfFile(view_);
-    CloseHandle(memory_);
-  }
-  Reader(const Reader&) = delete;
-  Reader& operator=(const Reader&) = delete;
 
   std::string Read(const Window& window) {
     static const UINT message = RegisterWindowMessageA(MenuReader::Message);
     window.Ask(message);
-    return view_;
+    return view_.get();
   }
 
  private:
-  HANDLE memory_ = nullptr;
-  char* view_ = nullptr;
-  HHOOK hook_ = nullptr;
+  // What goes first stands last.
+  std::unique_ptr<void, HandleCloser> memory_;
+  std::unique_ptr<char, ViewCloser> view_;
+  std::unique_ptr<std::remove_pointer_t<HHOOK>, HookRemover> hook_;
 };
 
 // The index of the item in the submenu of `parent` (-1: the bar) with that caption.
@@ -95,6 +100,7 @@ bool IsInMenu(const Window& window) {
 }
 
 std::vector<MenuLine> ReadMenu(const Window& window) {
+  if (!GetMenu(window.handle())) return {};
   Reader reader(window);
   std::istringstream text(reader.Read(window));
   std::vector<MenuLine> lines;

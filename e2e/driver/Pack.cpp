@@ -127,14 +127,26 @@ void Pack::PressInVain(const std::string& keys) {
 }
 
 void Pack::Meet(const Window& window) {
-  const bool isSystems = FileDialogDriver::IsFileDialog(window);
   const bool isBox = IsBox(window);
   const std::string title = window.text();
-  if (!met_.insert(title + (isBox ? "\n" + ReadBox(window).text : "")).second) return;
-  SavePictureOf(window.rectangle(), title);
-  if (isSystems) return;
-  for (const std::string& line : isBox ? BrokenBoxRules(window) : BrokenRules(window)) {
+  const bool isNew = met_.insert(title + (isBox ? "\n" + ReadBox(window).text : "")).second;
+  if (isNew) SavePictureOf(window.rectangle(), title);
+  if (FileDialogDriver::IsFileDialog(window)) return;
+  for (const std::string& line : LastinglyBroken(window)) {
+    if (!told_.insert(title + line).second) continue;
     ADD_FAILURE() << "\"" << title << "\" breaks " << line;
+  }
+}
+
+std::vector<std::string> Pack::LastinglyBroken(const Window& window) const {
+  constexpr ULONGLONG LongestMomentMs = 2000;
+  const ULONGLONG deadline = GetTickCount64() + LongestMomentMs;
+  while (true) {
+    const auto lines = IsBox(window) ? BrokenBoxRules(window) : BrokenRules(window);
+    // The key that was pressed last may just be closing the window.
+    if (lines.empty() || !window.Exists() || !IsInFront(window)) return {};
+    if (GetTickCount64() > deadline) return lines;
+    Sleep(1);  // between two looks
   }
 }
 

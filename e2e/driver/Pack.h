@@ -1,7 +1,7 @@
 // The running pack, as its user meets it: one window at a time, worked by the keyboard.
 //
-// Every window that is met is photographed once, and held to the rules of Accessibility.h; a broken
-// rule is a failure of the running test.
+// Every window that is met is photographed once, and is held to the rules of Accessibility.h each
+// time that it is in front and waited for; a broken rule is a failure of the running test.
 #pragma once
 
 #include <functional>
@@ -57,10 +57,14 @@ class Pack {
   bool IsInFront(const Window& window) const;
   Window WaitInFront(const std::string& what, const std::function<bool(const Window&)>& isIt);
   void Meet(const Window& window);
+  // The rules that the window breaks; not those that it breaks for a moment while it changes, for
+  // it goes on while it is looked at. None if it is in front no more.
+  std::vector<std::string> LastinglyBroken(const Window& window) const;
   void WaitUntilGone(const Window& window);
 
   RunningProgram program_;
   std::set<std::string> met_;
+  std::set<std::string> told_;  // what was found broken, told once
 };
 
 // Saves a picture of a part of the screen, named after the running test and the given words.

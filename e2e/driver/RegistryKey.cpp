@@ -39,12 +39,20 @@ void RegistryKey::Remember(const std::string& name) {
                    &size);
 }
 
-void RegistryKey::Set(const std::string& name, const std::string& text) {
+void RegistryKey::Write(const std::string& name, DWORD type, const void* bytes, size_t size) {
   Remember(name);
-  if (RegSetValueExA(key_, name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                     static_cast<DWORD>(text.size()) + 1) != ERROR_SUCCESS) {
+  if (RegSetValueExA(key_, name.c_str(), 0, type, static_cast<const BYTE*>(bytes),
+                     static_cast<DWORD>(size)) != ERROR_SUCCESS) {
     throw std::runtime_error("cannot write to the registry key " + path_);
   }
+}
+
+void RegistryKey::Set(const std::string& name, const std::string& text) {
+  Write(name, REG_SZ, text.c_str(), text.size() + 1);
+}
+
+void RegistryKey::Set(const std::string& name, DWORD number) {
+  Write(name, REG_DWORD, &number, sizeof number);
 }
 
 void RegistryKey::Remove(const std::string& name) {

@@ -22,6 +22,7 @@ class RegistryKey {
 
   // Sets a text; the name "" is the key's default value.
   void Set(const std::string& name, const std::string& text);
+  void Set(const std::string& name, DWORD number);
   void Remove(const std::string& name);
 
  private:
@@ -30,6 +31,7 @@ class RegistryKey {
     std::string bytes;
   };
   void Remember(const std::string& name);
+  void Write(const std::string& name, DWORD type, const void* bytes, size_t size);
 
   HKEY root_;
   std::string path_;

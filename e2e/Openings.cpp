@@ -1,0 +1,57 @@
+#include "e2e/Openings.h"
+
+namespace E2e {
+namespace {
+
+void OpenTrackEditor(Pack& pack) {
+  pack.ChooseMenu({"Track", "New"});
+  pack.ChooseFile("keyboard");
+  pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
+}
+
+void WaitForMainWindow(Pack& pack) {
+  pack.WaitForMain();
+}
+
+}  // namespace
+
+void PrintTo(const Opening& opening, std::ostream* out) {
+  *out << opening.form;
+}
+
+std::vector<Opening> Openings() {
+  const auto press = [](const char* keys) { return [keys](Pack& pack) { pack.Press(keys); }; };
+  return {
+      {"NewWhat", "New what?", press("Ctrl+N"), WaitForMainWindow},
+      {"PackageWhat", "Package what?", press("Ctrl+P"), WaitForMainWindow},
+      {"CheckWhat", "Check what?", press("Ctrl+C"), WaitForMainWindow},
+      {"HighScores", "Record Viewer",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Game", "Record Viewer"});
+       },
+       WaitForMainWindow},
+      {"Trackmaker", "SK2 Trackmaker by Orvane Interactive", OpenTrackEditor, WaitForMainWindow},
+      {"TrackParts", "New track part",
+       [](Pack& pack) {
+         OpenTrackEditor(pack);
+         pack.Press("Ctrl+Shift+N");
+       },
+       [](Pack& pack) {
+         pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
+         pack.Press("Escape");
+         pack.WaitForMain();
+       }},
+      {"InputBox", "Parts",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Track", "Random Track"});
+         pack.ChooseFile("keyboard");
+         pack.AnswerBox("N");
+       },
+       [](Pack& pack) {
+         pack.AnswerBox();
+         pack.WaitForMain();
+       }},
+  };
+}
+
+}  // namespace E2e
