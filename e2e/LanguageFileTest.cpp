@@ -83,5 +83,31 @@ TEST_F(LanguageFile, TranslationIsShown) {
   EXPECT_THAT(ReadFile(file), testing::StartsWith(german));
 }
 
+TEST_F(LanguageFile, FolderInItsPlaceLeavesTheTextsEnglish) {
+  const std::string file = PutProgramFolder() + "\\sk2pack.lng";
+  ASSERT_TRUE(CreateDirectoryA(file.c_str(), nullptr));
+  Pack& pack = StartPack();
+  EXPECT_EQ(ReadMenu(pack.WaitForMain()).at(0).caption, "&File");
+  pack.ChooseMenu({"Game", "Check Record File"});
+  EXPECT_EQ(pack.AnswerBox(), Information("Check complete", "Score file checked with no errors."));
+  pack.WaitForMain();
+  EXPECT_THAT(NamesIn(file), testing::IsEmpty());
+}
+
+TEST_F(LanguageFile, WriteProtectedFileIsReadAndLeftAsItIs) {
+  const std::string file = PutProgramFolder() + "\\sk2pack.lng";
+  WriteFile(file, "XFile=&Datei\r\n");
+  SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY);
+  Pack& pack = StartPack();
+  const auto menu = ReadMenu(pack.WaitForMain());
+  EXPECT_EQ(menu.at(0).caption, "&Datei");
+  EXPECT_EQ(menu.at(2).caption, "&Vehicle");
+  pack.ChooseMenu({"Game", "Check Record File"});
+  EXPECT_EQ(pack.AnswerBox(), Information("Check complete", "Score file checked with no errors."));
+  pack.WaitForMain();
+  EXPECT_EQ(ReadFile(file), "XFile=&Datei\r\n");
+  SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
 }  // namespace
 }  // namespace E2e

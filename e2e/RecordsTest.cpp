@@ -145,5 +145,21 @@ TEST_F(Records, CheckerTellsGoodBadAndMissingRecords) {
   pack.WaitForMain();
 }
 
+TEST_F(Records, AmpersandInATracksNameIsShown) {
+  WriteFile(file(), "A&B=1000\r\nhill=72345\r\n");
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Game", "Record Viewer"});
+  const Window viewer = pack.WaitForWindow("Record Viewer");
+  EXPECT_THAT(viewer.control("Select a track:").rows(), testing::ElementsAre("A&B", "hill"));
+}
+
+TEST_F(Records, AmpersandInThePathOfAFaultyFileIsShownInTheBox) {
+  const std::string path = gameFolder() + "\\tracks\\A&B.trk";
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Track", "Check .trk file"});
+  pack.ChooseFile(path);
+  EXPECT_EQ(pack.AnswerBox().text, "(General): " + path + " doesn't exist.");
+}
+
 }  // namespace
 }  // namespace E2e
