@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 
 #include "tests/platform/TestMachine.h"
@@ -18,10 +19,17 @@ std::map<std::string, HANDLE>& Holds() {
   return holds;
 }
 
-std::string TemporaryFolder() {
+constexpr const char* ScratchName = "sk2contract";  // and the number of the process
+
+// Where the system keeps temporary files, with a backslash at its end.
+std::string FolderOfScratchFolders() {
   char path[MAX_PATH + 1];
   const DWORD length = GetTempPathA(sizeof path, path);
-  return std::string(path, length) + "sk2contract" + std::to_string(GetCurrentProcessId());
+  return {path, length};
+}
+
+std::string TemporaryFolder() {
+  return FolderOfScratchFolders() + ScratchName + std::to_string(GetCurrentProcessId());
 }
 
 // The names in a folder but "." and "..".
@@ -127,9 +135,43 @@ void RemoveFolder(const std::string& folder) {
   RemoveDirectoryA(folder.c_str());
 }
 
+// Gives the user back the right to make and delete files in a folder.
+void AllowNewFiles(const std::string& folder) {
+  SetRefusal(folder, false);
+  if (!TakesNewFiles(folder)) SetImmutable(folder, false);
+  EXPECT_TRUE(TakesNewFiles(folder)) << folder << " cannot be written to any more";
+}
+
+bool IsRunning(DWORD processId) {
+  const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
+  if (!process) return false;
+  const bool isRunning = WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+  CloseHandle(process);
+  return isRunning;
+}
+
+// Removes what runs that were killed have left, folders that refuse files among it.
+void RemoveLeftovers() {
+  const std::string start = ScratchName;
+  for (const std::string& name : AllNames(FolderOfScratchFolders())) {
+    if (!name.starts_with(start)) continue;
+    if (IsRunning(std::strtoul(name.c_str() + start.size(), nullptr, 10))) continue;
+    const std::string folder = FolderOfScratchFolders() + name;
+    for (const std::string& inside : AllNames(folder)) {
+      const std::string path = folder + "\\" + inside;
+      const DWORD attributes = GetFileAttributesA(path.c_str());
+      if (attributes & FILE_ATTRIBUTE_DIRECTORY) AllowNewFiles(path);
+    }
+    AllowNewFiles(folder);
+    RemoveFolder(folder);
+  }
+}
+
 }  // namespace
 
 std::string ScratchFolder() {
+  static const bool isTidy = (RemoveLeftovers(), true);
+  EXPECT_TRUE(isTidy);
   const std::string folder = TemporaryFolder();
   CreateDirectoryA(folder.c_str(), nullptr);
   return folder;
@@ -213,10 +255,7 @@ bool RefuseNewFiles(const std::string& folder) {
 void RealMachine::PutBackFiles() {
   using namespace TestMachine;
   while (!Holds().empty()) LetGo(std::string(Holds().begin()->first));
-  for (const std::string& folder : Refusing()) {
-    SetRefusal(folder, false);
-    if (!TakesNewFiles(folder)) SetImmutable(folder, false);
-  }
+  for (const std::string& folder : Refusing()) AllowNewFiles(folder);
   Refusing().clear();
   RemoveFolder(TemporaryFolder());
 }
