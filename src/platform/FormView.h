@@ -20,12 +20,13 @@ class FormView {
 
   // Shows the window, active and with the focus on the form's focused control; a window without
   // controls has the focus itself. The first time it opens over another window, on the screen of
-  // that one; null if there is none.
+  // that one; null if there is none. Fails with RuntimeError DeviceError if the system cannot show
+  // it.
   void Show(FormView* over);
   void Hide();
 
   // Shows the window over its owner, which takes no input meanwhile, and handles events until
-  // EndModal.
+  // EndModal, or until the window is gone. If it fails, the owner takes input again.
   void RunModal(FormView* owner);
   void EndModal();
 

@@ -81,7 +81,14 @@ void Stage::Put(Form& form) {
   // The new window is shown before the old one goes, so that no other program comes between them.
   current = &form;
   form.isVisible_ = true;
-  form.view_->Show(previous ? previous->view() : nullptr);
+  try {
+    form.view_->Show(previous ? previous->view() : nullptr);
+  } catch (...) {
+    current = previous;
+    form.isVisible_ = false;
+    form.view_->Hide();
+    throw;
+  }
   if (previous) {
     previous->isVisible_ = false;
     if (previous->view_) previous->view_->Hide();
@@ -146,15 +153,22 @@ void Form::Unload() {
 
 void Form::ShowModal() {
   Load();
-  Stage& stage = TheStage();
   Form* const owner = ActiveForm();
-  stage.modals.push_back(this);
+  TheStage().modals.push_back(this);
   isModal_ = true;
   isVisible_ = true;
-  view_->RunModal(owner ? owner->view() : nullptr);
-  isVisible_ = false;
+  try {
+    view_->RunModal(owner ? owner->view() : nullptr);
+  } catch (...) {
+    ModalEnded();
+    throw;
+  }
+  ModalEnded();
+}
+
+void Form::ModalEnded() {
   isModal_ = false;
-  std::erase(stage.modals, this);
+  std::erase(TheStage().modals, this);
   TakeDown();
 }
 
@@ -223,6 +237,8 @@ bool Form::KeyDown(KeyEvent key) {
 }
 
 void Form::CloseRequested() {
+  const std::vector<Form*>& modals = TheStage().modals;
+  if (!modals.empty() && modals.back() != this) return;
   Dispatch([this] {
     if (OnClose) return OnClose();
     Unload();

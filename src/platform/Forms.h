@@ -35,7 +35,8 @@ class Form {
 
   // Loads the window if it is not loaded, and puts it on the stage in place of the one there. The
   // focus is where it was when the window was last shown. A failure while loading is passed on; the
-  // window is then not loaded and the stage as before.
+  // window is then not loaded and the stage as before. So is the failure to show it; it is then
+  // loaded and hidden.
   void Show();
 
   // Gives up the stage: to the window that is shown before the running event ends, otherwise to the
@@ -49,6 +50,7 @@ class Form {
   void Unload();
 
   // Shows the window over the one that is in use, and returns when EndModal or Unload is called.
+  // Afterwards, and after a failure, it is not loaded.
   void ShowModal();
   void EndModal();
 
@@ -75,7 +77,8 @@ class Form {
   Button* cancelButton() const;
   FormView* view() const { return view_.get(); }
 
-  // For the view: what the user does in the window. KeyDown returns true if the key was used.
+  // For the view: what the user does in the window. KeyDown returns true if the key was used. A
+  // window over which a modal one stands is not closed, whoever asks for it.
   bool KeyDown(KeyEvent key);
   void CloseRequested();
   void FocusArrived(Control& control);
@@ -87,6 +90,7 @@ class Form {
 
   void Load();
   void TakeDown();
+  void ModalEnded();
   void MoveFocusOn();
 
   LangText titleText_;

@@ -142,6 +142,50 @@ TEST_F(DialogsContract, ABoxMayComeOverAModalWindow) {
   EXPECT_EQ(TestMachine::VisibleWindows(), Lines{"Main"});
 }
 
+TEST_F(DialogsContract, AWindowUnderABoxIsNotClosedByOtherPrograms) {
+  int closes = 0;
+  main.OnClose = [&] { ++closes; };
+  TestMachine::WhenModalWindowOpens([] {
+    TestMachine::CloseFromTaskbar("Main");
+    EXPECT_EQ(TestMachine::VisibleWindows(), (Lines{"Main", "Question"}));
+    TestMachine::Press("Alt+Y");
+  });
+  EXPECT_EQ(Platform::MsgBox("Really?", "Question", Platform::Icon::Question,
+                             Platform::Buttons::YesNoDefaultNo),
+            Platform::Answer::Yes);
+  EXPECT_EQ(closes, 0);
+  TestMachine::CloseFromTaskbar("Main");
+  EXPECT_EQ(closes, 1) << "now it is in use";
+}
+
+TEST_F(DialogsContract, AWindowThatIsHiddenIsNotClosedWhileABoxIsOpen) {
+  Platform::Form tool(FixedText("Tool"));
+  Platform::Button Submit(tool, {.text = FixedText("OK"), .isDefault = true});
+  tool.Show();
+  TestMachine::WhenModalWindowOpens([] {
+    TestMachine::CloseFromTaskbar("Main");
+    TestMachine::CloseFromTaskbar("Tool");
+    TestMachine::Press("Alt+Y");
+  });
+  EXPECT_EQ(Platform::MsgBox("Really?", "Question", Platform::Icon::Question,
+                             Platform::Buttons::YesNoDefaultNo),
+            Platform::Answer::Yes);
+  EXPECT_FALSE(Platform::HasProgramEnded());
+  EXPECT_EQ(TestMachine::VisibleWindows(), Lines{"Tool"});
+}
+
+TEST_F(DialogsContract, AWindowUnderAnInputBoxIsNotClosed) {
+  int closes = 0;
+  main.OnClose = [&] { ++closes; };
+  TestMachine::WhenModalWindowOpens([] {
+    TestMachine::CloseFromTaskbar("Main");
+    TestMachine::Type("30");
+    TestMachine::Press("Enter");
+  });
+  EXPECT_EQ(Platform::InputBox("How many?", "Random track"), "30");
+  EXPECT_EQ(closes, 0);
+}
+
 // --- File dialogs ---
 
 class FileDialogContract : public DialogsContract {

@@ -217,6 +217,26 @@ TEST_F(FormsModel, AModalWindowThatFailsToLoadIsNotShown) {
   EXPECT_EQ(ActiveForm(), &main);
 }
 
+TEST_F(FormsModel, AModalWindowThatFailsWhileItIsOpenIsTakenDown) {
+  user.WhenWindowOpens("Tool", [] { throw std::bad_alloc(); });
+  EXPECT_THROW(tool.ShowModal(), std::bad_alloc);
+  EXPECT_EQ(ActiveForm(), &main);
+  EXPECT_FALSE(tool.IsLoaded());
+  EXPECT_THAT(Screen(), ElementsAre("Main"));
+}
+
+TEST_F(FormsModel, AWindowThatCannotBeShownLeavesTheStageAsItWas) {
+  machine.screen.refusesWindows = true;
+  EXPECT_THROW(tool.Show(), RuntimeError);
+  EXPECT_THROW(other.ShowModal(), RuntimeError);
+  EXPECT_EQ(ActiveForm(), &main);
+  EXPECT_FALSE(tool.IsVisible());
+  EXPECT_THAT(Screen(), ElementsAre("Main"));
+  machine.screen.refusesWindows = false;
+  tool.Show();
+  EXPECT_THAT(Screen(), ElementsAre("Tool"));
+}
+
 TEST_F(FormsModel, ADestroyedWindowLeavesTheStage) {
   {
     Tool brief("Brief");

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "platform/MsgBox.h"
 #include "tests/platform/ContractWindows.h"
 
 using KeysContract = ContractWindowTest;
@@ -162,4 +163,21 @@ TEST_F(KeysContract, KeysThatEditStayWithATextBox) {
   EXPECT_EQ(keys, std::vector<int>{});
   TestMachine::Press("Ctrl+N");
   EXPECT_THAT(keys, testing::Contains('N'));
+}
+
+TEST_F(KeysContract, ABoxThatAKeyOpenedIsAnsweredWhicheverKeyIsLetGoFirst) {
+  auto answer = Platform::Answer::No;
+  window.OnKeyDown = [&](Platform::KeyEvent& key) {
+    if (key.code != 'C' || key.shift != Platform::Shift::Alt) return;
+    key.isHandled = true;
+    answer = Platform::MsgBox("Really?", "Question", Platform::Icon::Question,
+                              Platform::Buttons::YesNoDefaultNo);
+  };
+  OpenWindow();
+  TestMachine::WhenModalWindowOpens([] {
+    TestMachine::LetGoOfKeys();
+    TestMachine::Press("Y");
+  });
+  TestMachine::HoldDown("Alt+C");
+  EXPECT_EQ(answer, Platform::Answer::Yes);
 }

@@ -82,13 +82,22 @@ void PostKey(BYTE key, bool isDown, bool isAlt) {
   RealMachine::Pump();
 }
 
-void PressStroke(const Stroke& stroke) {
+void PutDown(const Stroke& stroke) {
   SetKeys(stroke, true);
   if (stroke.isAlt) PostKey(VK_MENU, true, true);
   PostKey(stroke.key, true, stroke.isAlt);
+}
+
+void PressStroke(const Stroke& stroke) {
+  PutDown(stroke);
   PostKey(stroke.key, false, stroke.isAlt);
   SetKeys(stroke, false);
   if (stroke.isAlt) PostKey(VK_MENU, false, false);
+}
+
+Stroke& StrokeHeldDown() {
+  static Stroke stroke;
+  return stroke;
 }
 
 HWND ChildOfClass(HWND parent, const char* name) {
@@ -168,6 +177,18 @@ void Press(const std::string& key) {
   PressStroke(StrokeOf(key));
 }
 
+void HoldDown(const std::string& key) {
+  StrokeHeldDown() = StrokeOf(key);
+  PutDown(StrokeHeldDown());
+}
+
+void LetGoOfKeys() {
+  const Stroke stroke = std::exchange(StrokeHeldDown(), {});
+  SetKeys(stroke, false);
+  if (stroke.isAlt) PostKey(VK_MENU, false, true);
+  PostKey(stroke.key, false, false);
+}
+
 void Type(const std::string& text) {
   for (const char c : text) {
     const SHORT key = VkKeyScanA(c);
@@ -181,6 +202,11 @@ void Type(const std::string& text) {
 
 void CloseWindow() {
   PostMessageA(GetActiveWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  RealMachine::Pump();
+}
+
+void CloseFromTaskbar(const std::string& title) {
+  PostMessageA(FindWindowA(nullptr, title.c_str()), WM_CLOSE, 0, 0);
   RealMachine::Pump();
 }
 

@@ -363,6 +363,25 @@ TEST_F(WindowTest, ManyWindowsLeaveNoWindowBehind) {
   EXPECT_EQ(WindowsOfThisThread(), windows);
 }
 
+TEST_F(WindowTest, AModalWindowHasACloseBoxAlone) {
+  TestMachine::WhenModalWindowOpens([this] {
+    const LONG_PTR style = StyleOf(WindowOf(tool));
+    EXPECT_EQ(style & (WS_SYSMENU | WS_MINIMIZEBOX | WS_MAXIMIZEBOX), WS_SYSMENU);
+    TestMachine::CloseWindow();
+  });
+  tool.ShowModal();
+}
+
+TEST_F(WindowTest, AModalWindowThatGoesAwayGivesTheOwnerBack) {
+  TestMachine::WhenModalWindowOpens([this] {
+    EXPECT_FALSE(IsWindowEnabled(WindowOf(main)));
+    DestroyWindow(WindowOf(tool));
+  });
+  tool.ShowModal();
+  EXPECT_TRUE(IsWindowEnabled(WindowOf(main)));
+  EXPECT_EQ(ActiveForm(), &main);
+}
+
 TEST_F(WindowTest, ManyWindowsLeaveNoHandlesBehind) {
   OpenAndClose(tool);
   const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);

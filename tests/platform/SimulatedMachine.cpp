@@ -129,8 +129,18 @@ void Type(const std::string& text) {
   machine->user.Types(text);
 }
 
+void HoldDown(const std::string& key) {
+  machine->user.Presses(key);
+}
+
+void LetGoOfKeys() {}
+
 void CloseWindow() {
   machine->user.ClosesWindow();
+}
+
+void CloseFromTaskbar(const std::string& title) {
+  machine->user.ClosesFromTaskbar(title);
 }
 
 void ClickRow(const std::string& row) {

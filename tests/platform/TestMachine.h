@@ -2,8 +2,8 @@
 // services. It reaches round those services: what it prepares and tells comes from the machine
 // itself, as another program would see it.
 //
-// Implemented by SimulatedMachineTests.cpp and by RealMachine.cpp. Every function may be called in
-// a test only.
+// Implemented by SimulatedMachine.cpp and by the files RealMachine*.cpp. Every function may be
+// called in a test only.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -92,10 +92,16 @@ bool HasSoundDevice();
 // Presses a key by its name: "Enter", "Tab", "Shift+Tab", "Escape", "Space", "Up", "Home",
 // "Delete", "Ctrl+A", "Ctrl+Shift+N", "Alt+S", "Alt+F4".
 void Press(const std::string& key);
+// Presses a key such as "Alt+C" and holds it down, Alt too. LetGoOfKeys lets go of Alt first, then
+// of the key; Press does it the other way round.
+void HoldDown(const std::string& key);
+void LetGoOfKeys();
 // Types the characters of a text.
 void Type(const std::string& text);
 // The close box of the window.
 void CloseWindow();
+// The taskbar, or another program, asks the window of that title to close; it need not be in use.
+void CloseFromTaskbar(const std::string& title);
 // Clicks, or clicks twice, on the row with that text in the window's only list.
 void ClickRow(const std::string& row);
 void DoubleClickRow(const std::string& row);

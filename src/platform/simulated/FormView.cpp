@@ -1,5 +1,8 @@
 #include "platform/FormView.h"
 
+#include <utility>
+
+#include "base/RuntimeError.h"
 #include "platform/simulated/Machine.h"
 #include "platform/simulated/Window.h"
 
@@ -33,12 +36,13 @@ FormView::~FormView() {
 }
 
 void FormView::Show(FormView*) {
+  if (Simulated::TheMachine().screen.refusesWindows) throw RuntimeError(RuntimeError::DeviceError);
   native_->isShown = true;
   native_->Check();
 }
 
 void FormView::Hide() {
-  native_->isShown = false;
+  if (!std::exchange(native_->isShown, false)) return;
   // Another program would get the focus, and the user would hear it instead of the pack.
   const Form* active = ActiveForm();
   const bool isAnotherShown = active && active != &native_->form && active->IsVisible();
@@ -48,9 +52,9 @@ void FormView::Hide() {
 }
 
 void FormView::RunModal(FormView* owner) {
+  Show(owner);
   const auto action = NextModalAction(native_->form);
   native_->isModalLoopRunning = true;
-  Show(owner);
   action();
   if (native_->isModalLoopRunning) {
     Simulated::Complain("the window stayed open: " + native_->form.title());

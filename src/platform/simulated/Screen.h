@@ -13,6 +13,7 @@ struct Screen {
   std::vector<const Window*> windows;  // loaded, on the screen or not
   std::vector<OpenBox*> boxes;         // the one in use last
   std::vector<std::string> dialogs;    // titles of open file dialogs, the one in use last
+  bool refusesWindows = false;         // showing one fails, as when memory has run out
 
   // The box that has the keyboard, if one has it.
   OpenBox* BoxInUse() const { return boxes.empty() ? nullptr : boxes.back(); }

@@ -6,6 +6,7 @@
 #include "platform/simulated/Hearing.h"
 #include "platform/simulated/Machine.h"
 #include "platform/simulated/OpenBox.h"
+#include "platform/simulated/Window.h"
 
 namespace Simulated {
 
@@ -91,6 +92,16 @@ void User::WhenProgramWaits(std::function<void()> action) {
 
 void User::ClosesWindow() {
   if (Form* form = WindowInUse("close")) form->CloseRequested();
+}
+
+void User::ClosesFromTaskbar(const std::string& title) {
+  const Screen& screen = TheMachine().screen;
+  // Boxes and dialogs keep all windows from being used.
+  if (!screen.boxes.empty() || !screen.dialogs.empty()) return;
+  for (const Window* window : screen.windows) {
+    if (window->form.title() == title) return window->form.CloseRequested();
+  }
+  Complain("there is no window to close: " + title);
 }
 
 void User::ChoosesMenu(const std::vector<std::string>& captions) {

@@ -47,6 +47,8 @@ class User {
   // Types a text into the focused control, key by key.
   void Types(const std::string& text) { keyboard_.Type(text); }
   void ClosesWindow();
+  // Asks the window of that title to close, as the taskbar does, whatever stands over it.
+  void ClosesFromTaskbar(const std::string& title);
   // Chooses an item of the menu bar by the captions on the way to it, without their "&". What
   // stands in parentheses at a caption's end may be left out.
   void ChoosesMenu(const std::vector<std::string>& captions);

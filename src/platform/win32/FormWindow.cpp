@@ -30,6 +30,23 @@ HICON LoadProgramIcon(int widthMetric, int heightMetric) {
                                        GetSystemMetrics(heightMetric), LR_SHARED));
 }
 
+// Keeps a window from taking input, until it goes. Null is no window.
+class DisabledWindow {
+ public:
+  explicit DisabledWindow(HWND window) : window_(window) {
+    wasEnabled_ = window && EnableWindow(window, FALSE) == 0;
+  }
+  ~DisabledWindow() {
+    if (wasEnabled_) EnableWindow(window_, TRUE);
+  }
+  DisabledWindow(const DisabledWindow&) = delete;
+  DisabledWindow& operator=(const DisabledWindow&) = delete;
+
+ private:
+  HWND window_;
+  bool wasEnabled_;
+};
+
 bool HasGrowing(const Form& form) {
   return std::any_of(form.controls().begin(), form.controls().end(), [](const Control* control) {
     return control->kind() == Control::Kind::ListBox ||
@@ -149,19 +166,31 @@ void FormView::Native::Hide() {
 
 void FormView::Native::RunModal(HWND owner) {
   isModalOver_ = false;
-  bool wasOwnerEnabled = false;
+  const HWND window = window_;
+  // A dialog has a close box only.
+  SetWindowLongPtrA(
+      window, GWL_STYLE,
+      GetWindowLongPtrA(window, GWL_STYLE) & ~LONG_PTR{WS_MINIMIZEBOX | WS_MAXIMIZEBOX});
   if (owner) {
     SetWindowLongPtrA(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
     // The owner stands for both on the taskbar.
     SetWindowLongPtrA(window_, GWL_EXSTYLE,
                       GetWindowLongPtrA(window_, GWL_EXSTYLE) & ~LONG_PTR{WS_EX_APPWINDOW});
-    wasOwnerEnabled = EnableWindow(owner, FALSE) == 0;
   }
-  Show(owner);
-  HandleMessagesUntil([this] { return isModalOver_; });
-  // First the owner, then away with the window: otherwise another program would be activated.
-  if (wasOwnerEnabled) EnableWindow(owner, TRUE);
-  Hide();
+  {
+    const DisabledWindow disabled(owner);
+    Show(owner);
+    // This object is gone when its window is.
+    HandleMessagesUntil([this, window] { return !IsWindow(window) || isModalOver_; });
+  }
+  // The owner takes input again before the window goes: otherwise another program would be
+  // activated.
+  if (Find(window)) Hide();
+}
+
+bool FormView::Native::TakesInput() const {
+  // A box disables the window under it alone, not those that are hidden.
+  return IsWindowEnabled(window_) && IsWindowEnabled(ActiveWindow());
 }
 
 void FormView::Native::EndModal() {
@@ -238,7 +267,9 @@ std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPA
     case ControlWindow::RowsWait:
       for (ControlWindow& child : controls_) child.DrawRows();
       return 0;
-    case WM_CLOSE: form_.CloseRequested(); return 0;
+    case WM_CLOSE:
+      if (TakesInput()) form_.CloseRequested();
+      return 0;
     case WM_ACTIVATE:
       if (LOWORD(wParam) == WA_INACTIVE || HIWORD(wParam)) return std::nullopt;
       RestoreFocus();

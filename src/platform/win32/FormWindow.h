@@ -1,8 +1,9 @@
 // The native window of a form.
 //
 // Windows with controls are real dialogs; a window without any is of a class of our own that keeps
-// the focus itself. Whatever the user does may end with the window gone: after a call into the form
-// nothing of this object is touched again, and it is looked up anew by its handle.
+// the focus itself. Whatever the user does may end with the window gone: after a call into the
+// form, and after handling messages, nothing of this object is touched again unless it is found
+// anew by its window's handle.
 #pragma once
 
 #include <memory>
@@ -38,6 +39,8 @@ struct FormView::Native {
   void Hide();
   void RunModal(HWND owner);
   void EndModal();
+  // False while a box, a dialog or a modal window waits for the user.
+  bool TakesInput() const;
   void ShowTitle();
   void ShowMenu();
   void MoveFocus();

@@ -18,14 +18,12 @@ void Handle(MSG& message) {
   const HWND window = GetAncestor(message.hwnd, GA_ROOT);
   FormView::Native* form = FormView::Native::Find(window);
   if (form && IsKeyDown(message)) {
-    if (form->KeyDown(message)) {
-      // The system must learn that Alt was not pressed alone: it would open the menu at its
-      // release.
-      if (message.message == WM_SYSKEYDOWN && message.wParam != VK_F4 && message.wParam != VK_F10) {
-        DefWindowProcA(window, message.message, message.wParam, message.lParam);
-      }
-      return;
+    // The system must learn that Alt was not pressed alone: at its release it would open the menu,
+    // of this window or of a box that the key has opened.
+    if (message.message == WM_SYSKEYDOWN && message.wParam != VK_F4 && message.wParam != VK_F10) {
+      DefWindowProcA(window, message.message, message.wParam, message.lParam);
     }
+    if (form->KeyDown(message)) return;
     form = FormView::Native::Find(window);  // the key may have taken the window down
   }
   if (form && form->IsDialog() && IsDialogMessageA(window, &message)) return;
