@@ -81,6 +81,7 @@ constexpr int App = 4;
 constexpr Layer Layers[] = {
     {"src/base/", 0},
     {"src/platform/", 1},
+    {"src/text/Messages", Leaves},
     {"src/text/StringTable", Leaves},
     {"src/app/AppTexts", Leaves},
     {"src/app/Application", Leaves},

@@ -34,6 +34,8 @@ struct AppTextTable {
   LangText HAbout{"HAbout", "&About"};
 
   // The choosers.
+  LangText Vehicle{"Vehicle", "Vehicle"};
+  LangText Track{"Track", "Track"};
   LangText NewWhatTitle{"NewWhatTitle", "New what?"};
   LangText NewWhatPrompt{"NewWhatPrompt", "New:"};
   LangText PackageWhatTitle{"PackageWhatTitle", "Package what?"};
@@ -46,6 +48,11 @@ struct AppTextTable {
   LangText NotAvailableText{"NotAvailableText",
                             "This tool is not part of this version of the pack."};
   LangText NotAvailableTitle{"NotAvailableTitle", "Notice"};
+
+  // Why most tools cannot work.
+  LangText GameNotInstalled{
+      "RTEGameNotInstalled",
+      "Skidrun2 was not found on this computer. Please install the game and try again."};
 
   // The About box.
   LangText About{"About", "About"};

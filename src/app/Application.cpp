@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "app/AppTexts.h"
 #include "app/Registry.h"
 #include "base/RuntimeError.h"
 
@@ -20,7 +21,7 @@ std::string GameFolder() {
   std::string location = UninstallValue("InstallLocation");
   // A location of one character leaves no folder either.
   if (location.size() < 2) {
-    throw RuntimeError(RuntimeError::InvalidCall, RuntimeErrorTexts.GameNotInstalled);
+    throw RuntimeError(RuntimeError::InvalidCall, AppTexts.GameNotInstalled);
   }
   location.pop_back();
   return location;

@@ -2,11 +2,10 @@
 
 #include "app/AppTexts.h"
 #include "app/Interface.h"
-#include "base/SharedTexts.h"
 
 CheckWhat::CheckWhat()
     : Chooser(AppTexts.CheckWhatTitle, AppTexts.CheckWhatText,
-              {{SharedTexts.Vehicle, Interface::CheckVehicle},
-               {SharedTexts.Track, Interface::CheckTrack},
+              {{AppTexts.Vehicle, Interface::CheckVehicle},
+               {AppTexts.Track, Interface::CheckTrack},
                {AppTexts.RecFile, Interface::CheckRecords}},
               MainWindow::ComesBack) {}

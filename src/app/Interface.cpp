@@ -8,11 +8,10 @@
 #include "app/PackageWhat.h"
 #include "base/PerRun.h"
 #include "platform/Executable.h"
-#include "platform/MsgBox.h"
 #include "platform/ShellOpen.h"
 #include "records/HighScores.h"
-#include "records/RecordChecker.h"
-#include "text/StringTable.h"
+#include "records/RecordManager.h"
+#include "text/Messages.h"
 #include "tracks/RandomTrackmaker.h"
 #include "tracks/TrackManager.h"
 #include "vehicles/CarManager.h"
@@ -47,7 +46,7 @@ void ViewRecords() {
   ShowRecordViewer();
 }
 void CheckRecords() {
-  CheckRecordsMenu();
+  RecordManager::CheckRecordsMenu();
 }
 
 void ViewDocumentation() {
@@ -64,8 +63,8 @@ void ShowAbout() {
 }
 
 void TellNotAvailable() {
-  Platform::MsgBox(GetLangString(AppTexts.NotAvailableText),
-                   GetLangString(AppTexts.NotAvailableTitle), Platform::Icon::Information);
+  Messages::Show(AppTexts.NotAvailableText, AppTexts.NotAvailableTitle,
+                 Platform::Icon::Information);
 }
 
 }  // namespace Interface

@@ -2,10 +2,9 @@
 
 #include "app/AppTexts.h"
 #include "app/Interface.h"
-#include "base/SharedTexts.h"
 
 NewWhat::NewWhat()
-    : Chooser(AppTexts.NewWhatTitle, AppTexts.NewWhatPrompt,
-              {{SharedTexts.Vehicle, Interface::TellNotAvailable},
-               {SharedTexts.Track, Interface::NewTrack}},
-              MainWindow::StaysHidden) {}
+    : Chooser(
+          AppTexts.NewWhatTitle, AppTexts.NewWhatPrompt,
+          {{AppTexts.Vehicle, Interface::TellNotAvailable}, {AppTexts.Track, Interface::NewTrack}},
+          MainWindow::StaysHidden) {}

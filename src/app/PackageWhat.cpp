@@ -2,10 +2,9 @@
 
 #include "app/AppTexts.h"
 #include "app/Interface.h"
-#include "base/SharedTexts.h"
 
 PackageWhat::PackageWhat()
     : Chooser(AppTexts.PackageWhatTitle, AppTexts.PackageWhatPrompt,
-              {{SharedTexts.Vehicle, Interface::TellNotAvailable},
-               {SharedTexts.Track, Interface::TellNotAvailable}},
+              {{AppTexts.Vehicle, Interface::TellNotAvailable},
+               {AppTexts.Track, Interface::TellNotAvailable}},
               MainWindow::StaysHidden) {}

@@ -18,9 +18,6 @@ struct RuntimeErrorTextTable {
   LangText PathNotFound{"RTEPathNotFound", "The folder was not found."};
   LangText NameNotUsable{"RTENameNotUsable",
                          "The file name is too long or holds characters that cannot be used."};
-  LangText GameNotInstalled{
-      "RTEGameNotInstalled",
-      "Skidrun2 was not found on this computer. Please install the game and try again."};
   LangText Unexpected{"RTEUnexpected", "An unexpected error occurred."};
   LangText File{"RTEFile", "File:"};
   LangText Title{"RTETitle", "Error"};

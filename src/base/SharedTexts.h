@@ -12,7 +12,5 @@ struct SharedTextTable {
   LangText SyntaxError{"SyntaxError", "Syntax Error"};
   LangText And{"And", "and"};
   LangText Or{"Or", "or"};
-  LangText Vehicle{"Vehicle", "Vehicle"};
-  LangText Track{"Track", "Track"};
 };
 inline constexpr SharedTextTable SharedTexts;

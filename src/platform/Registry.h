@@ -17,7 +17,7 @@ enum class RegistryType { String, Number, Other };
 
 struct RegistryValue {
   RegistryType type;
-  std::string bytes;  // as stored: a string with or without a final NUL, a number in four bytes
+  std::string bytes;  // as stored: a string with or without a final NUL, a number lowest byte first
 };
 
 // Opens a key for querying only, reads one value and closes the key again.

@@ -3,18 +3,8 @@
 #include <utility>
 
 #include "base/PerRun.h"
-#include "platform/MsgBox.h"
 #include "records/RecordFile.h"
-#include "text/StringTable.h"
-
-namespace {
-
-bool Confirms(const LangText& question, const LangText& title) {
-  return Platform::MsgBox(GetLangString(question), GetLangString(title), Platform::Icon::Question,
-                          Platform::Buttons::YesNoDefaultNo) == Platform::Answer::Yes;
-}
-
-}  // namespace
+#include "text/Messages.h"
 
 HighScores::HighScores() : Form(RecordTexts.RecordViewerTitle) {
   Tracks.OnSelect = [this] { Tracks_Click(); };
@@ -40,7 +30,10 @@ std::string HighScores::RecordTimeText(int index) const {
 
 void HighScores::DeleteRecord(int index) {
   if (!HasRecord(index)) return;
-  if (!Confirms(RecordTexts.DeleteRecordWarningText, RecordTexts.DeleteRecordWarningTitle)) return;
+  if (!Messages::Ask(RecordTexts.DeleteRecordWarningText, RecordTexts.DeleteRecordWarningTitle,
+                     Platform::Buttons::YesNoDefaultNo)) {
+    return;
+  }
   std::vector<std::string> remaining = records_;
   remaining.erase(remaining.begin() + index);
   RecordFile::Write(remaining);
@@ -51,7 +44,10 @@ void HighScores::DeleteRecord(int index) {
 }
 
 void HighScores::ClearRecords() {
-  if (!Confirms(RecordTexts.ClearRecordsWarningText, RecordTexts.ClearRecordsWarningTitle)) return;
+  if (!Messages::Ask(RecordTexts.ClearRecordsWarningText, RecordTexts.ClearRecordsWarningTitle,
+                     Platform::Buttons::YesNoDefaultNo)) {
+    return;
+  }
   RecordFile::Write({});
   records_.clear();
   Tracks.Clear();
@@ -86,8 +82,8 @@ void HighScores::ShowSelectedTime() {
 void ShowRecordViewer() {
   std::vector<std::string> records = RecordFile::Read();
   if (records.empty()) {
-    Platform::MsgBox(GetLangString(RecordTexts.NoRecordsText),
-                     GetLangString(RecordTexts.NoRecordsTitle), Platform::Icon::Information);
+    Messages::Show(RecordTexts.NoRecordsText, RecordTexts.NoRecordsTitle,
+                   Platform::Icon::Information);
     return;
   }
   PerRun<HighScores>().ShowRecords(std::move(records));

@@ -1,16 +1,13 @@
 #include "records/RecordChecker.h"
 
 #include <algorithm>
+#include <exception>
 
-#include "app/CheckReport.h"
 #include "base/RuntimeError.h"
-#include "base/SharedTexts.h"
 #include "platform/FileLines.h"
 #include "platform/Files.h"
 #include "platform/Forms.h"
-#include "platform/MsgBox.h"
 #include "platform/Numbers.h"
-#include "records/RecordFile.h"
 #include "records/RecordTexts.h"
 #include "text/StringTable.h"
 
@@ -48,23 +45,8 @@ int64_t CheckRecordFile(const std::string& path, std::string& message) {
     return CheckLines(path, message);
   } catch (const RuntimeError& error) {
     message = Platform::FailureText(error.cause(), path);
-    return UnreadableRecordFile;
+  } catch (const std::exception&) {
+    message = Platform::FailureText(RuntimeErrorTexts.OutOfMemory, path);
   }
-}
-
-void CheckRecordsMenu() {
-  using Platform::Icon;
-  std::string message;
-  const int64_t line = CheckRecordFile(RecordFile::Path(), message);
-  if (line == MissingRecordFile) {
-    Platform::MsgBox(GetLangString(RecordTexts.RecordFileNonexistentText),
-                     GetLangString(RecordTexts.RecordFileNonexistentTitle), Icon::Critical);
-  } else if (line == UnreadableRecordFile) {
-    Platform::MsgBox(message, GetLangString(RuntimeErrorTexts.Title), Icon::Critical);
-  } else if (line != 0) {
-    CheckReport::ShowFault(line, message, SharedTexts.SyntaxError);
-  } else {
-    Platform::MsgBox(GetLangString(RecordTexts.RecordFileOKText),
-                     GetLangString(RecordTexts.RecordFileOKTitle), Icon::Information);
-  }
+  return UnreadableRecordFile;
 }

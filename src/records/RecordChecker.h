@@ -15,7 +15,3 @@ inline constexpr int64_t UnreadableRecordFile = -2;
 // MissingRecordFile; UnreadableRecordFile if the file is there but cannot be read, or has a line
 // longer than LineReader::LongestLine. Never fails. Takes a file of any size in bounded memory.
 int64_t CheckRecordFile(const std::string& path, std::string& message);
-
-// Checks the game's record file and tells the user what was found, over the window in use.
-// Fails as RecordFile::Path does.
-void CheckRecordsMenu();

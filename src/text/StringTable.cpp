@@ -1,23 +1,28 @@
 #include "text/StringTable.h"
 
+#include <exception>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "app/Program.h"
 #include "base/PerRun.h"
-#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "platform/Files.h"
 
 namespace {
 
+// Hundreds of times the size of any translation.
+constexpr uint64_t LargestFile = 8 << 20;
+
 // The lines of the language file as they were at the last look.
 class LanguageFile {
  public:
-  // Reads the file again if it has changed. False if it is there but cannot be read.
+  // Reads the file again if it has changed. False if it is too large to be a language file. Fails
+  // as Platform::ReadWholeFile does.
   bool Refresh();
   std::optional<std::string> Find(const std::string& key, int flag) const;
+  // Fails as Platform::AppendToFile does.
   void Append(const std::string& entry);
 
  private:
@@ -26,7 +31,6 @@ class LanguageFile {
   std::optional<Platform::FileStamp> stamp_;  // nothing while there is no file
   std::vector<std::string> lines_;
   bool endsInOpenLine_ = false;  // the last line lacks its line end
-  bool refusesEntries_ = false;  // an entry could not be appended
 };
 
 // What counts of a line where ";" starts a comment. Lines without one stay as they are, blanks
@@ -51,13 +55,8 @@ bool LanguageFile::Refresh() {
   isKnown_ = false;
   lines_.clear();
   endsInOpenLine_ = false;
-  refusesEntries_ = false;
-  std::optional<std::string> bytes;
-  try {
-    bytes = Platform::ReadWholeFile(path_);
-  } catch (const RuntimeError&) {
-    return false;
-  }
+  if (stamp && stamp->size > LargestFile) return false;
+  const std::optional<std::string> bytes = Platform::ReadWholeFile(path_);
   if (bytes && !bytes->empty()) {
     // Translators' editors end lines in CR LF, CR or LF; the empty lines that this makes of CR LF
     // are skipped with all others.
@@ -89,26 +88,23 @@ std::optional<std::string> LanguageFile::Find(const std::string& key, int flag) 
 }
 
 void LanguageFile::Append(const std::string& entry) {
-  // Each try at a file that another program holds may take a second, and a window has many texts.
-  if (refusesEntries_) return;
-  try {
-    Platform::AppendToFile(path_, (endsInOpenLine_ ? "\r\n" : "") + entry + "\r\n");
-    isKnown_ = false;
-  } catch (const RuntimeError&) {
-    // A program folder that may not be written to is no reason to stop: the default is shown.
-    refusesEntries_ = true;
-  }
+  Platform::AppendToFile(path_, (endsInOpenLine_ ? "\r\n" : "") + entry + "\r\n");
+  isKnown_ = false;
 }
 
 }  // namespace
 
 std::string GetLangString(const std::string& key, const std::string& english, int flag) {
-  auto& file = PerRun<LanguageFile>();
-  // A file that exists but cannot be read, because an editor holds it, may have the key: appending
-  // the default would replace the translation, since the last line of a key counts.
-  if (!file.Refresh()) return english;
-  if (const auto text = file.Find(key, flag)) return WithSemicolons(*text);
-  file.Append(key + "=" + english);
+  try {
+    auto& file = PerRun<LanguageFile>();
+    // A file that exists but cannot be read, because an editor holds it, may have the key:
+    // appending the default would replace the translation, since the last line of a key counts.
+    if (!file.Refresh()) return english;
+    if (const auto text = file.Find(key, flag)) return WithSemicolons(*text);
+    file.Append(key + "=" + english);
+  } catch (const std::exception&) {
+    // A file that cannot be read or written, or too little memory for it, is no reason to stop.
+  }
   return english;
 }
 

@@ -15,8 +15,10 @@ inline constexpr int WithComments = -1;
 //            the file as it stands, so that running the program completes the file for translators.
 //   flag     WithComments, or any other value to take every line as it is.
 // If several lines have the key, the last one counts. "{sc}", in its four spellings that differ in
-// letter case, becomes ";" in a text from the file. A file that cannot be read or written changes
-// nothing else: the default is returned. Never fails.
+// letter case, becomes ";" in a text from the file. Never fails: where the file cannot be read or
+// written, or has more than eight megabytes, the default is returned. Nothing is appended to a file
+// that is there but cannot be read; an entry that could not be appended is tried again at the key's
+// next lookup.
 //
 // The file is read again only when its size or last-write time has changed since the last lookup.
 std::string GetLangString(const std::string& key, const std::string& english, int flag);

@@ -3,8 +3,7 @@
 #include "app/Application.h"
 #include "app/CheckReport.h"
 #include "app/FileDialogs.h"
-#include "platform/MsgBox.h"
-#include "text/StringTable.h"
+#include "text/Messages.h"
 #include "vehicles/VehicleChecker.h"
 #include "vehicles/VehicleTexts.h"
 
@@ -16,8 +15,8 @@ void CheckVehicleMenu() {
   const std::string path = dialog.Show();
   if (path.empty()) {
     // The same pair of texts as where a vehicle is saved, title included.
-    Platform::MsgBox(GetLangString(VehicleTexts.VehicleNoFileErrorText),
-                     GetLangString(VehicleTexts.VehicleNoFileErrorTitle), Platform::Icon::Critical);
+    Messages::Show(VehicleTexts.VehicleNoFileErrorText, VehicleTexts.VehicleNoFileErrorTitle,
+                   Platform::Icon::Critical);
     return;
   }
   int32_t code = 0;

@@ -64,6 +64,19 @@ TEST_F(RegistryStory, ANumberIsReturnedInDecimal) {
   EXPECT_EQ(Read("Number"), "-1");
 }
 
+TEST_F(RegistryStory, ANumberOfOtherThanFourBytesIsMadeOfTheBytesThereAre) {
+  const auto read = [this](const std::string& bytes) {
+    machine.registry.Put(RegistryRoot::LocalMachine, RegistryView::Of32Bit, "SOFTWARE\\Key",
+                         "Number", {Platform::RegistryType::Number, bytes});
+    return Read("Number");
+  };
+  EXPECT_EQ(read("\x2A"), "42");
+  EXPECT_EQ(read("\x01\x02\x03"), "197121");
+  EXPECT_EQ(read(std::string("\x2A\0\0\0\0", 5)), "42");
+  EXPECT_EQ(read("\x01\x01\x01\x01\x01"), "") << "more than 32 bits";
+  EXPECT_EQ(read(""), "");
+}
+
 TEST_F(RegistryStory, OtherTypesAreEmpty) {
   machine.registry.PutOther(RegistryRoot::LocalMachine, RegistryView::Of32Bit, "SOFTWARE\\Key",
                             "Binary", "bytes");

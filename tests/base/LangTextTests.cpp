@@ -11,7 +11,7 @@ TEST(LangText, ATableListsItsTextsInOrder) {
   const auto texts = TextsOf(SharedTexts);
   EXPECT_STREQ(texts.front().key, SharedTexts.OKButton.key);
   EXPECT_STREQ(texts.front().english, "OK");
-  EXPECT_STREQ(texts.back().key, SharedTexts.Track.key);
+  EXPECT_STREQ(texts.back().key, SharedTexts.Or.key);
 }
 
 TEST(LangText, AFixedTextHasNoKey) {
@@ -44,9 +44,9 @@ TEST(RuntimeError, EachNumberHasACauseOfItsOwn) {
 }
 
 TEST(RuntimeError, MayHaveACauseInWordsOfItsOwn) {
-  const RuntimeError error(RuntimeError::InvalidCall, RuntimeErrorTexts.GameNotInstalled);
+  const RuntimeError error(RuntimeError::InvalidCall, RuntimeErrorTexts.NameNotUsable);
   EXPECT_EQ(error.number(), 5);
-  EXPECT_STREQ(error.cause().key, "RTEGameNotInstalled");
+  EXPECT_STREQ(error.cause().key, "RTENameNotUsable");
   EXPECT_EQ(error.file(), "");
 }
 

@@ -4,6 +4,8 @@
 
 #include "base/PerRun.h"
 #include "tests/FailureSweep.h"
+#include "tests/HostFile.h"
+#include "tests/PeakMemory.h"
 #include "tests/Story.h"
 
 namespace {
@@ -161,16 +163,33 @@ TEST_F(StringTableStory, AFileThatCannotBeMadeStopsNothing) {
   EXPECT_FALSE(machine.files.Exists(LanguageFile));
 }
 
-TEST_F(StringTableStory, AFileThatRefusesAnEntryIsLeftAloneUntilItChanges) {
+TEST_F(StringTableStory, AnEntryThatWasRefusedIsTriedAgainAtTheNextLookup) {
   FileHolds("XFile=Datei\r\n");
   machine.files.Hold(LanguageFile);
-  Look("FClose", "&Close");
-  machine.files.Release(LanguageFile);
-  Look("FClose", "&Close");
+  EXPECT_EQ(Look("FClose", "&Close"), "&Close");
   EXPECT_EQ(File(), "XFile=Datei\r\n");
-  FileHolds("XFile=Daten\r\n");
-  Look("FClose", "&Close");
-  EXPECT_EQ(File(), "XFile=Daten\r\nFClose=&Close\r\n");
+  machine.files.Release(LanguageFile);
+  EXPECT_EQ(Look("FClose", "&Close"), "&Close");
+  EXPECT_EQ(File(), "XFile=Datei\r\nFClose=&Close\r\n");
+}
+
+TEST_F(StringTableStory, AFileThatIsTooLargeForALanguageFileIsNotReadAndNotAppendedTo) {
+  constexpr size_t Limit = 8 << 20;
+  HostFile large;
+  large.Repeat("XFile=Datei\r\n", Limit + 1);
+  machine.files.MountHostFile(LanguageFile, large.path());
+  std::string text;
+  const auto growth = PeakMemory::Of([&] { text = Look("XFile", "&File"); });
+  EXPECT_EQ(text, "&File");
+  EXPECT_LT(growth.value_or(0), Limit);
+  EXPECT_EQ(machine.files.Find(LanguageFile)->hostPath, large.path()) << "it was not written";
+  FileHolds("XFile=Datei\r\n");
+  EXPECT_EQ(Look("XFile", "&File"), "Datei");
+}
+
+TEST_F(StringTableStory, AFailureThatNoServiceNamesYieldsTheDefaultToo) {
+  machine.files.MountHostFile(LanguageFile, "no such file of the host");  // asking for it throws
+  EXPECT_EQ(Look("FClose", "&Close"), "&Close");
 }
 
 // The last line of a key counts, so an appended default would take a translation's place.
