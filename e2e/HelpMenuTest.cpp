@@ -37,6 +37,17 @@ TEST_F(HelpMenu, HelpFileIsOpenedFromAFolderWithBlanksAndAmpersand) {
   EXPECT_TRUE(pack.program().IsRunning());
 }
 
+TEST_F(HelpMenu, MissingHelpFileIsToldByTheSystem) {
+  PutProgramFolder();
+  DeleteFileA((programFolder() + "\\sk2pack.chm").c_str());
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Help", "View Documentation"});
+  const BoxText box = pack.AnswerBox();
+  EXPECT_FALSE(box.text.empty());
+  EXPECT_EQ(box.icon, BoxIcon::Critical);
+  pack.WaitForMain();
+}
+
 TEST_F(HelpMenu, PublishersSiteIsOpened) {
   const Opener opener(scratch.path());
   Pack& pack = StartPack();

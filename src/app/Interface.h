@@ -18,7 +18,8 @@ void CheckTrack();
 void ViewRecords();
 void CheckRecords();
 
-// Opens the help file beside the program. Whether there is one is the system's to tell.
+// Opens the help file beside the program, or a web site. If that cannot be, the system tells the
+// user; the pack reports nothing.
 void ViewDocumentation();
 void VisitPublisher();
 void VisitMaker();

@@ -6,7 +6,8 @@
 namespace Platform {
 
 // Hands a file or an address to the system's shell, as one argument: blanks and "&" in it have no
-// meaning. What cannot be opened is told by the system, if at all; this never fails.
+// meaning. What cannot be opened, such as a file that does not exist, is told to the user by the
+// system itself, over the window in use; this never fails.
 void ShellOpen(const std::string& target);
 
 }  // namespace Platform

@@ -19,10 +19,21 @@ class HelpMenuStory : public PackStory {
 
 TEST_F(HelpMenuStory, TheDocumentationIsOpenedAsOneArgument) {
   machine.executable.folder = "C:\\Tools & Toys\\My Pack";
+  machine.files.Put("C:\\Tools & Toys\\My Pack\\sk2pack.chm", "help");
   StartPack();
   user.ChoosesMenu({"Help", "View Documentation"});
   EXPECT_THAT(machine.shell.Opened(), ElementsAre("C:\\Tools & Toys\\My Pack\\sk2pack.chm"));
   EXPECT_TRUE(user.Boxes().empty());
+}
+
+TEST_F(HelpMenuStory, AMissingHelpFileIsToldByTheSystem) {
+  StartPack();
+  user.ChoosesMenu({"Help", "View Documentation"});
+  EXPECT_THAT(machine.shell.Opened(), testing::IsEmpty());
+  ASSERT_EQ(user.Boxes().size(), 1U);
+  EXPECT_THAT(user.LastBox().text, testing::HasSubstr("sk2pack.chm"));
+  EXPECT_EQ(user.LastBox().owner, PackTitle);
+  EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
 TEST_F(HelpMenuStory, TheWebSitesAreOpened) {

@@ -6,11 +6,13 @@
 #include "tests/platform/KeysContract.h"
 #include "tests/platform/MenusContract.h"
 #include "tests/platform/NumbersContract.h"
+#include "tests/platform/RealMachine.h"
 #include "tests/platform/RegistryContract.h"
 #include "tests/platform/StageContract.h"
 #include "tests/platform/SystemContract.h"
 
 int main(int argc, char** argv) {
+  if (RealMachine::WasStartedToOpen(argc, argv)) return 0;
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -1,5 +1,6 @@
 // What every machine promises of the small services: the program's own file, the clock, letter
-// case, the named mutex, the sound device. Included once by each machine's tests.
+// case, the named mutex, the sound device, opening documents. Included once by each machine's
+// tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 #include "platform/Forms.h"
 #include "platform/LetterCase.h"
 #include "platform/NamedMutex.h"
+#include "platform/ShellOpen.h"
 #include "platform/Sound.h"
 #include "tests/platform/TestMachine.h"
 
@@ -80,4 +82,30 @@ TEST_F(SystemContract, TheSoundDeviceIsOpenedOnce) {
     EXPECT_THROW(Platform::OpenSoundDevice(owner), RuntimeError);
     EXPECT_FALSE(Platform::IsSoundDeviceOpen());
   }
+}
+
+class ShellOpenContract : public ContractTest {
+ protected:
+  ShellOpenContract() { Platform::StartProgram(owner); }
+
+  const std::string folder = TestMachine::ScratchFolder();
+  Platform::Form owner{FixedText("Owner")};
+};
+
+TEST_F(ShellOpenContract, ADocumentIsOpenedAsOneArgumentWhateverItsNameHolds) {
+  const std::string path = folder + "\\a b & c (d)" + TestMachine::DocumentExtension();
+  TestMachine::PutFile(path, "1");
+  Platform::ShellOpen(path);
+  EXPECT_EQ(TestMachine::OpenedDocument(), path);
+}
+
+TEST_F(ShellOpenContract, WhatIsNotThereIsToldByTheSystemOverTheWindow) {
+  std::string told;
+  TestMachine::WhenModalWindowOpens([&] {
+    told = TestMachine::MessageBoxOnScreen().text;
+    TestMachine::Press("Enter");
+  });
+  EXPECT_NO_THROW(Platform::ShellOpen(folder + "\\no such" + TestMachine::DocumentExtension()));
+  EXPECT_NE(told, "");
+  EXPECT_EQ(TestMachine::VisibleWindows(), std::vector<std::string>{"Owner"});
 }

@@ -1,4 +1,4 @@
-// The shell of the simulated machine: it remembers what it was asked to open.
+// The shell of the simulated machine: it remembers what it has opened.
 #pragma once
 
 #include <string>

@@ -1,13 +1,24 @@
 #include "platform/ShellOpen.h"
 
+#include "platform/MsgBox.h"
 #include "platform/simulated/Machine.h"
 
 namespace Platform {
 
-void ShellOpen(const std::string& target) {
+namespace {
+
+bool CanBeOpened(const std::string& target) {
   Simulated::Machine& machine = Simulated::TheMachine();
-  if (machine.faults.Strikes("ShellOpen " + target)) return;
-  machine.shell.Open(target);
+  if (machine.faults.Strikes("ShellOpen " + target)) return false;
+  const bool isAddress = target.find("://") != std::string::npos;
+  return isAddress || machine.files.Exists(target);
+}
+
+}  // namespace
+
+void ShellOpen(const std::string& target) {
+  if (CanBeOpened(target)) return Simulated::TheMachine().shell.Open(target);
+  MsgBox("Windows cannot find '" + target + "'.", target, Icon::Critical);
 }
 
 }  // namespace Platform

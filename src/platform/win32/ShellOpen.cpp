@@ -12,7 +12,15 @@ namespace Platform {
 void ShellOpen(const std::string& target) {
   // Programs that the shell talks to by COM need it made ready on this thread.
   const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
-  ShellExecuteA(ActiveWindow(), nullptr, target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  SHELLEXECUTEINFOA what{};
+  what.cbSize = sizeof what;
+  // Without the flag that keeps the system silent, it tells what it cannot open. All is done when
+  // the call returns.
+  what.fMask = SEE_MASK_NOASYNC;
+  what.hwnd = ActiveWindow();
+  what.lpFile = target.c_str();
+  what.nShow = SW_SHOWNORMAL;
+  ShellExecuteExA(&what);
   if (SUCCEEDED(com)) CoUninitialize();
 }
 
