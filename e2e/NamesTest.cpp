@@ -1,17 +1,20 @@
-// File names that the system code page does not have: the pack tells that it cannot use them.
+// File names that the system code page does not have: the pack tells that it cannot use them, and
+// never takes another file for theirs.
 #include "e2e/driver/PackTest.h"
 
 namespace E2e {
 namespace {
 
-using Names = PackTest;
+// Letters that the code page lacks altogether, and one that looks like an A.
+class Names : public PackTest, public testing::WithParamInterface<std::wstring> {};
 
-const std::wstring Foreign = L"\u5C71\u9053.trk";
+INSTANTIATE_TEST_SUITE_P(Foreign, Names, testing::Values(L"\u5C71\u9053.trk", L"\u0100.trk"));
 
-TEST_F(Names, TrackToCheckIsToldAsMissing) {
+TEST_P(Names, TrackToCheckIsToldAsMissing) {
+  WriteFile(gameFolder() + "\\tracks\\A.trk", "another track");
   Pack& pack = StartPack();
   pack.ChooseMenu({"Track", "Check .trk file"});
-  pack.WaitForFileDialog().Choose(Foreign);
+  pack.WaitForFileDialog().Choose(GetParam());
   const BoxText box = pack.AnswerBox();
   EXPECT_EQ(box.title, "Error");
   EXPECT_EQ(box.icon, BoxIcon::Critical);
@@ -20,10 +23,10 @@ TEST_F(Names, TrackToCheckIsToldAsMissing) {
   pack.WaitForMain();
 }
 
-TEST_F(Names, TrackCannotBeSavedUnderIt) {
+TEST_P(Names, TrackCannotBeSavedUnderIt) {
   Pack& pack = StartPack();
   pack.ChooseMenu({"Track", "New"});
-  pack.WaitForFileDialog().Choose(Foreign);
+  pack.WaitForFileDialog().Choose(GetParam());
   pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
   pack.Press("Alt+S");
   pack.AnswerBox("Y");

@@ -38,6 +38,20 @@ TEST_F(RandomTrack, StreetAdventureOfThreeParts) {
                         "11 lines, 3 parts, track file was checked successfully with no errors."));
 }
 
+TEST_F(RandomTrack, AdventureIsNotReplacedUnasked) {
+  Pack& pack = StartPack();
+  const std::string adventure = gameFolder() + "\\tracks\\advcity.trk";
+  WriteFile(adventure, "an old track");
+  pack.ChooseMenu({"Track", "Random Track"});
+  pack.ChooseFile("City");
+  pack.AnswerBox("Y");
+  const BoxText box = pack.AnswerBox("N");
+  EXPECT_EQ(box.title, "Replace track");
+  EXPECT_THAT(box.text, testing::HasSubstr("advcity.trk"));
+  pack.WaitForMain();
+  EXPECT_EQ(ReadFile(adventure), "an old track");
+}
+
 TEST_F(RandomTrack, CancelledQuestionLeavesNoFile) {
   Pack& pack = StartPack();
   pack.ChooseMenu({"Track", "Random Track"});

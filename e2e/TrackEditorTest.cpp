@@ -111,13 +111,40 @@ TEST_F(TrackEditor, ShortcutsWorkFromTheListAndMoveTheFocusToNewTrack) {
   EXPECT_EQ(ReadFile(gameFolder() + "\\tracks\\Other.trk"), "-1\r\n0\r\n");
 }
 
+TEST_F(TrackEditor, NoTrackIsReplacedUnasked) {
+  Pack& pack = StartPack();
+  const std::string lap = gameFolder() + "\\tracks\\Lap 1.5.trk";
+  WriteFile(lap, "an old track");
+
+  // The name as it is in the folder: the dialog asks, and stays.
+  pack.ChooseMenu({"Track", "New"});
+  pack.WaitForFileDialog().Choose("Lap 1.5.trk");
+  EXPECT_EQ(pack.AnswerBox("N").buttons, (std::vector<std::string>{"Yes", "No"}));
+  pack.CancelFileDialog();
+  EXPECT_EQ(pack.AnswerBox().title, "Aborted");
+
+  // A name that becomes that one: the pack asks.
+  pack.ChooseMenu({"Track", "New"});
+  pack.ChooseFile("Lap 1.5");
+  EXPECT_EQ(
+      pack.AnswerBox("N"),
+      Question("Replace track", "This track exists already. Do you want to replace it?\r\n" + lap));
+  pack.WaitForMain();
+  EXPECT_EQ(ReadFile(lap), "an old track");
+
+  pack.ChooseMenu({"Track", "New"});
+  pack.ChooseFile("Lap 1.5");
+  pack.AnswerBox("Y");
+  pack.WaitForWindow(EditorTitle);
+}
+
 TEST_F(TrackEditor, TrackThatCannotBeWrittenIsSavedElsewhere) {
   Pack& pack = StartPack();
   const std::string race = gameFolder() + "\\tracks\\Race.trk";
   pack.ChooseMenu({"Track", "New"});
   pack.ChooseFile("Race");
   pack.WaitForWindow(EditorTitle);
-  // The file comes after the choice: the dialog would ask before one that is there is replaced.
+  // The file comes after the choice: the pack would ask before one that is there is replaced.
   WriteFile(race, "an old track");
   SetFileAttributesA(race.c_str(), FILE_ATTRIBUTE_READONLY);
   pack.Press("Alt+P");

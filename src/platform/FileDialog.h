@@ -13,15 +13,20 @@ class FileDialog {
   explicit FileDialog(Kind kind) : kind_(kind) {}
 
   std::string title;
-  // Description and pattern in pairs, all separated by "|": "Tracks (*.trk)|*.trk".
-  std::string filter;
+  // The one kind of file that is offered, in words, and its pattern: "Tracks (*.trk)", "*.trk". No
+  // character of the words has a meaning to the system.
+  std::string fileType;
+  std::string pattern;
   // Added to a name that is typed without an extension, without its dot; empty for none.
   std::string defaultExtension;
   std::string initialFolder;
 
   // Shows the dialog over the window in use. Returns the full path that was chosen; empty if it was
-  // cancelled. A file to open need not exist: the caller's own message tells. Saving over a file
-  // is confirmed by the dialog. Fails with RuntimeError DeviceError if the system cannot show it.
+  // cancelled. A file to open need not exist: the caller's own message tells. Saving under the name
+  // of a file that is there is confirmed in the dialog: on No it stays. What the code page cannot
+  // hold of a path becomes "?", which no name can have, so that no other file is meant.
+  // The program's current folder stays what it was.
+  // Fails with RuntimeError DeviceError if the system cannot show it.
   std::string Show();
 
   Kind kind() const { return kind_; }

@@ -3,14 +3,16 @@
 #include <optional>
 #include <string>
 
-#include "base/File.h"
+#include "app/FileDialogs.h"
 #include "base/SharedTexts.h"
 #include "base/Text.h"
 #include "platform/InputBox.h"
 #include "platform/LetterCase.h"
-#include "platform/MsgBox.h"
+#include "platform/LongStep.h"
 #include "platform/Numbers.h"
+#include "platform/Paths.h"
 #include "platform/RandomRange.h"
+#include "text/Messages.h"
 #include "text/StringTable.h"
 #include "tracks/TrackManager.h"
 #include "tracks/TrackQuestions.h"
@@ -24,15 +26,13 @@ namespace {
 constexpr size_t BlockSize = 1 << 16;
 
 bool AskForAdventure() {
-  return Platform::MsgBox(GetLangString(TrackTexts.AdventureQuestionText),
-                          GetLangString(TrackTexts.AdventureQuestionTitle),
-                          Platform::Icon::Question,
-                          Platform::Buttons::YesNo) == Platform::Answer::Yes;
+  return Messages::Ask(TrackTexts.AdventureQuestionText, TrackTexts.AdventureQuestionTitle,
+                       Platform::Buttons::YesNo);
 }
 
 // The path with a prefix before the file's own name.
 std::string WithNamePrefix(const std::string& path, const std::string& prefix) {
-  const std::string name = File::NameOf(path);
+  const std::string name = Platform::NameOf(path);
   return path.substr(0, path.size() - name.size()) + prefix + name;
 }
 
@@ -43,25 +43,25 @@ std::optional<int32_t> AskForPartCount() {
         Platform::InputBox(GetLangString(TrackTexts.TrackPartsQuestionText),
                            GetLangString(TrackTexts.TrackPartsQuestionTitle));
     if (answer.empty()) {
-      Platform::MsgBox(GetLangString(TrackTexts.RTMAbortedNoPartsText),
-                       GetLangString(TrackTexts.RTMAbortedNoPartsTitle),
-                       Platform::Icon::Information);
+      Messages::Show(TrackTexts.RTMAbortedNoPartsText, TrackTexts.RTMAbortedNoPartsTitle,
+                     Platform::Icon::Information);
       return std::nullopt;
     }
     if (Platform::ParseNumber(answer)) return Platform::ParseInt32(answer);
-    Platform::MsgBox(GetLangString(TrackTexts.RTMNotNumber), GetLangString(SharedTexts.Error),
-                     Platform::Icon::Critical);
+    Messages::Show(TrackTexts.RTMNotNumber, SharedTexts.Error, Platform::Icon::Critical);
   }
 }
 
 }  // namespace
 
 void RandomTrack() {
-  std::string path = Platform::LowerCase(TrackQuestions::ChooseTrackFileToWrite(
-      TrackTexts.RTMAbortedNoFileText, TrackTexts.RTMAbortedNoFileTitle));
-  if (path.empty()) return;
+  const std::string chosen = TrackQuestions::ChooseTrackFile(
+      SharedDialogs().SaveTrack, TrackTexts.RTMAbortedNoFileText, TrackTexts.RTMAbortedNoFileTitle);
+  if (chosen.empty()) return;
+  std::string path = TrackQuestions::WithTrackExtension(Platform::LowerCase(chosen));
   // Such tracks are known to the game by their name.
   if (AskForAdventure()) path = WithNamePrefix(path, "adv");
+  if (!TrackQuestions::MayBeWritten(path, chosen)) return;
   const std::optional<int32_t> count = AskForPartCount();
   if (!count) return;
 
@@ -71,8 +71,8 @@ void RandomTrack() {
   TrackManager::AppendTrackEnd(TrackQuestions::AskForSun(), end);
   file.Write(end.append(Text::LineEnd));
   file.Finish();
-  Platform::MsgBox(GetLangString(TrackTexts.RTMFinishedText),
-                   GetLangString(TrackTexts.RTMFinishedTitle), Platform::Icon::Information);
+  Messages::Show(TrackTexts.RTMFinishedText, TrackTexts.RTMFinishedTitle,
+                 Platform::Icon::Information);
 }
 
 void WriteRandomParts(int32_t count, Platform::FileWriter& file) {
@@ -88,6 +88,7 @@ void WriteRandomParts(int32_t count, Platform::FileWriter& file) {
     if (block.size() < BlockSize) continue;
     file.Write(block);
     block.clear();
+    Platform::AnswerMessages();
   }
   file.Write(block);
 }

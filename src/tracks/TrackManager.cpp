@@ -6,8 +6,7 @@
 #include "base/Text.h"
 #include "platform/Files.h"
 #include "platform/Forms.h"
-#include "platform/MsgBox.h"
-#include "text/StringTable.h"
+#include "text/Messages.h"
 #include "tracks/TrackChecker.h"
 #include "tracks/TrackInWork.h"
 #include "tracks/TrackQuestions.h"
@@ -18,9 +17,13 @@ namespace TrackManager {
 
 namespace {
 
-std::string ChooseTrackFile() {
-  return TrackQuestions::ChooseTrackFileToWrite(TrackTexts.TMAbortedNoFileText,
-                                                TrackTexts.TMAbortedNoFileTitle);
+// The path for a new track; empty if there is none, or what stands there shall stay.
+std::string ChooseFileOfNewTrack() {
+  const std::string chosen = TrackQuestions::ChooseTrackFile(
+      SharedDialogs().SaveTrack, TrackTexts.TMAbortedNoFileText, TrackTexts.TMAbortedNoFileTitle);
+  if (chosen.empty()) return "";
+  const std::string path = TrackQuestions::WithTrackExtension(chosen);
+  return TrackQuestions::MayBeWritten(path, chosen) ? path : "";
 }
 
 }  // namespace
@@ -37,7 +40,7 @@ void CheckTrackMenu() {
 }
 
 void NewTrack() {
-  const std::string path = ChooseTrackFile();
+  const std::string path = ChooseFileOfNewTrack();
   if (path.empty()) return;
   PerRun<Trackmaker>().Show();
   TheTrack().TrackPath = path;
@@ -59,14 +62,14 @@ void WriteTextFile(const std::string& path, const std::string& text) {
 
 void SaveTrack() {
   TrackInWork& track = TheTrack();
-  const std::string path = track.TrackPath.empty() ? ChooseTrackFile() : track.TrackPath;
+  const std::string path = track.TrackPath.empty() ? ChooseFileOfNewTrack() : track.TrackPath;
   if (path.empty()) return;
   std::string text = track.TrackText;
   AppendTrackEnd(TrackQuestions::AskForSun(), text);
   WriteTextFile(path, text);
   track = {};
-  Platform::MsgBox(GetLangString(TrackTexts.TrackCompiledText),
-                   GetLangString(TrackTexts.TrackCompiledTitle), Platform::Icon::Information);
+  Messages::Show(TrackTexts.TrackCompiledText, TrackTexts.TrackCompiledTitle,
+                 Platform::Icon::Information);
   Platform::MainForm().Show();
 }
 

@@ -13,7 +13,8 @@ void CheckTrackMenu();
 
 // Starts a track: the user chooses its file, and the editor's window is shown in place of the one
 // in use. Parts that were built but not saved are kept and will go into the chosen file. If no file
-// is chosen, the user is told and nothing changes.
+// is chosen, the user is told and nothing changes. No file is replaced unasked: if the user wants
+// to keep one, nothing changes either.
 // Fails as Application::GameFolder does.
 void NewTrack();
 
@@ -29,8 +30,8 @@ void WriteTextFile(const std::string& path, const std::string& text);
 
 // Asks for the weather, writes the track in work to its file, says so, and goes back to the main
 // window; no track is then in work. A track without parts is written too.
-// Without a file, the user chooses one first; if none is chosen, the user is told and nothing
-// changes. Fails as WriteTextFile does: the track in work and its window are then as before.
+// Without a file, the user chooses one first, as for NewTrack; without a choice nothing changes.
+// Fails as WriteTextFile does: the track in work and its window are then as before.
 void SaveTrack();
 
 }  // namespace TrackManager

@@ -2,8 +2,12 @@
 
 #include "app/Application.h"
 #include "app/FileDialogs.h"
-#include "base/File.h"
+#include "base/Text.h"
+#include "platform/Files.h"
+#include "platform/LetterCase.h"
 #include "platform/MsgBox.h"
+#include "platform/Paths.h"
+#include "text/Messages.h"
 #include "text/StringTable.h"
 #include "tracks/TrackTexts.h"
 
@@ -13,22 +17,27 @@ std::string ChooseTrackFile(Platform::FileDialog& dialog, const LangText& noFile
                             const LangText& noFileTitle) {
   dialog.initialFolder = Application::GameFolder() + "\\tracks";
   std::string path = dialog.Show();
-  if (path.empty()) {
-    Platform::MsgBox(GetLangString(noFileText), GetLangString(noFileTitle),
-                     Platform::Icon::Information);
-  }
+  if (path.empty()) Messages::Show(noFileText, noFileTitle, Platform::Icon::Information);
   return path;
 }
 
-std::string ChooseTrackFileToWrite(const LangText& noFileText, const LangText& noFileTitle) {
-  const std::string path = ChooseTrackFile(SharedDialogs().SaveTrack, noFileText, noFileTitle);
-  return path.empty() || File::HasExtension(path, ".trk") ? path : path + ".trk";
+std::string WithTrackExtension(const std::string& path) {
+  return Platform::HasExtension(path, ".trk") ? path : path + ".trk";
+}
+
+bool MayBeWritten(const std::string& path, const std::string& chosen) {
+  const bool isAsChosen = Platform::LowerCase(path) == Platform::LowerCase(chosen);
+  if (isAsChosen || !Platform::FileExists(path)) return true;
+  const std::string question =
+      GetLangString(TrackTexts.ReplaceTrackText) + std::string(Text::LineEnd) + path;
+  return Platform::MsgBox(question, GetLangString(TrackTexts.ReplaceTrackTitle),
+                          Platform::Icon::Question,
+                          Platform::Buttons::YesNoDefaultNo) == Platform::Answer::Yes;
 }
 
 bool AskForSun() {
-  return Platform::MsgBox(GetLangString(TrackTexts.WeatherQuestionText),
-                          GetLangString(TrackTexts.WeatherQuestionTitle), Platform::Icon::Question,
-                          Platform::Buttons::YesNo) == Platform::Answer::Yes;
+  return Messages::Ask(TrackTexts.WeatherQuestionText, TrackTexts.WeatherQuestionTitle,
+                       Platform::Buttons::YesNo);
 }
 
 }  // namespace TrackQuestions

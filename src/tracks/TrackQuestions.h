@@ -9,14 +9,18 @@
 namespace TrackQuestions {
 
 // Lets the user choose a track file, starting in the game's folder of tracks. Returns its full
-// path. If none is chosen, tells the user with the given text and title, and returns an empty text.
-// Fails as Application::GameFolder and the dialog do.
+// path as it was chosen. If none is chosen, tells the user with the given text and title, and
+// returns an empty text. Fails as Application::GameFolder and the dialog do.
 std::string ChooseTrackFile(Platform::FileDialog& dialog, const LangText& noFileText,
                             const LangText& noFileTitle);
 
-// The same for a track file to write: ".trk" is appended to its name unless it ends so in any
-// letter case.
-std::string ChooseTrackFileToWrite(const LangText& noFileText, const LangText& noFileTitle);
+// A path with ".trk" appended, unless it ends so in any letter case.
+std::string WithTrackExtension(const std::string& path);
+
+// Whether a file to write may stand at the path. The dialog has asked about a file under the name
+// that was chosen; where the program has made another name of it and there is a file of that name,
+// the user is asked whether it shall be replaced.
+bool MayBeWritten(const std::string& path, const std::string& chosen);
 
 // Asks whether the sun shall shine on the track; otherwise it rains.
 bool AskForSun();

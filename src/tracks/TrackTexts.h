@@ -82,6 +82,11 @@ struct TrackTextTable {
                              "Your new track has been successfully written and saved."};
   LangText TrackCompiledTitle{"TrackCompiledTitle", "Track saved."};
 
+  // Where the program has completed a name that was chosen to be written.
+  LangText ReplaceTrackText{"ReplaceTrackText",
+                            "This track exists already. Do you want to replace it?"};
+  LangText ReplaceTrackTitle{"ReplaceTrackTitle", "Replace track"};
+
   // The random track generator.
   LangText RTMAbortedNoFileText{"RTMAbortedNoFileText",
                                 "Random Trackmaker aborted. No filename selected."};

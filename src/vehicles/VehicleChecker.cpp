@@ -5,12 +5,12 @@
 #include <optional>
 #include <string_view>
 
-#include "base/File.h"
 #include "base/Maths.h"
 #include "base/SharedTexts.h"
 #include "platform/FileLines.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
+#include "platform/Paths.h"
 #include "text/StringTable.h"
 #include "vehicles/VehicleTexts.h"
 #include "vehicles/VehicleVariables.h"
@@ -24,7 +24,7 @@ struct Fault {
 
 class Checker {
  public:
-  explicit Checker(const std::string& path) : folder_(File::FolderOf(path)) {}
+  explicit Checker(const std::string& path) : folder_(Platform::FolderOf(path)) {}
 
   // The fault of one line, if it has one. Fails if a number does not fit 32 bits.
   std::optional<Fault> FaultOf(std::string_view line);

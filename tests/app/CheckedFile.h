@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "app/Start.h"
-#include "base/File.h"
+#include "platform/Paths.h"
 #include "tests/FailureSweep.h"
 #include "tests/Matchers.h"
 
@@ -38,14 +38,14 @@ inline void ExpectAnyFailureToEndInOneBox(const Menu& menu, const std::string& p
     machine.files.Put(path, bytes);
     for (const std::string& sound : sounds) machine.files.Put(sound, "");
     StartPack();
-    const auto names = machine.files.Names(File::FolderOf(path));
+    const auto names = machine.files.Names(Platform::FolderOf(path));
     machine.user.ChoosesFile(path);
     machine.FailAnyCall(after);
     machine.user.ChoosesMenu(menu);
     EXPECT_EQ(machine.user.Boxes().size(), 1U);
     EXPECT_EQ(machine.user.SeesWindow(), MainTitle);
     EXPECT_EQ(machine.files.Text(path), bytes);
-    EXPECT_EQ(machine.files.Names(File::FolderOf(path)), names);
+    EXPECT_EQ(machine.files.Names(Platform::FolderOf(path)), names);
     // The dialog may not have been reached.
     machine.user.script().files.clear();
     if (!machine.FailureHappened()) {

@@ -98,19 +98,22 @@ TEST_F(StartUpStory, TheSharedDialogsHaveTheirTitlesFiltersAndExtensions) {
   StartPack();
   const FileDialogs& dialogs = SharedDialogs();
   EXPECT_EQ(dialogs.OpenWav.title, "Open .wav sound");
-  EXPECT_EQ(dialogs.OpenWav.filter, "Wave audio sound files (*.wav)|*.wav");
+  EXPECT_EQ(dialogs.OpenWav.fileType, "Wave audio sound files (*.wav)");
+  EXPECT_EQ(dialogs.OpenWav.pattern, "*.wav");
   EXPECT_EQ(dialogs.OpenWav.defaultExtension, "");
   EXPECT_EQ(dialogs.SaveTrack.title, "Save Skidrun2 Track file");
-  EXPECT_EQ(dialogs.SaveTrack.filter, "SK2-Strecken (*.trk)|*.trk");
-  EXPECT_EQ(dialogs.SaveTrack.defaultExtension, "trk");
+  EXPECT_EQ(dialogs.SaveTrack.fileType, "SK2-Strecken (*.trk)");
+  EXPECT_EQ(dialogs.SaveTrack.pattern, "*.trk");
+  EXPECT_EQ(dialogs.SaveTrack.defaultExtension, "");
   EXPECT_EQ(dialogs.OpenTrack.title, "Open Skidrun2 Track file");
-  EXPECT_EQ(dialogs.OpenTrack.filter, "SK2-Strecken (*.trk)|*.trk");
+  EXPECT_EQ(dialogs.OpenTrack.fileType, "SK2-Strecken (*.trk)");
   EXPECT_EQ(dialogs.OpenTrack.defaultExtension, "");
   EXPECT_EQ(dialogs.OpenVehicle.title, "Open Skidrun2 Vehicle file");
-  EXPECT_EQ(dialogs.OpenVehicle.filter, "SK2 Vehicle files (*.vhc)|*.vhc");
+  EXPECT_EQ(dialogs.OpenVehicle.fileType, "SK2 Vehicle files (*.vhc)");
+  EXPECT_EQ(dialogs.OpenVehicle.pattern, "*.vhc");
   EXPECT_EQ(dialogs.OpenVehicle.defaultExtension, "vhc");
   EXPECT_EQ(dialogs.SaveVehicle.title, "Save Skidrun2 Vehicle file");
-  EXPECT_EQ(dialogs.SaveVehicle.filter, "SK2 Vehicle files (*.vhc)|*.vhc");
+  EXPECT_EQ(dialogs.SaveVehicle.fileType, "SK2 Vehicle files (*.vhc)");
   EXPECT_EQ(dialogs.SaveVehicle.defaultExtension, "vhc");
 }
 
@@ -151,7 +154,7 @@ std::vector<std::string> ThingsDone(const Simulated::Machine& machine) {
   for (const auto* dialog : {&dialogs.OpenWav, &dialogs.SaveTrack, &dialogs.OpenTrack,
                              &dialogs.OpenVehicle, &dialogs.SaveVehicle}) {
     things.push_back(dialog->title);
-    things.push_back(dialog->filter);
+    things.push_back(dialog->fileType);
   }
   things.push_back(machine.user.SeesWindow());
   things.push_back(machine.files.Exists(Updater) ? "updater left" : "updater deleted");

@@ -193,16 +193,18 @@ class FileDialogContract : public DialogsContract {
   FileDialogContract() {
     for (Platform::FileDialog* each : {&open, &save}) {
       each->title = "Track file";
-      each->filter = "SK2 Track files (*.trk)|*.trk";
+      each->fileType = "SK2 Track files (*.trk)";
+      each->pattern = "*.trk";
       each->initialFolder = folder;
     }
   }
 
   // What the dialog returns when the user types a text in it.
-  static std::string Typing(const std::string& text, Platform::FileDialog& dialog) {
+  static std::string Typing(const std::string& text, Platform::FileDialog& dialog,
+                            std::optional<bool> replaces = std::nullopt) {
     TestMachine::WhenModalWindowOpens([&] {
       EXPECT_EQ(TestMachine::ActiveWindow(), "Track file");
-      TestMachine::ChooseInFileDialog(text);
+      TestMachine::ChooseInFileDialog(text, replaces);
     });
     return dialog.Show();
   }
@@ -231,7 +233,8 @@ TEST_F(FileDialogContract, AFileToOpenNeedNotExist) {
 
 TEST_F(FileDialogContract, ANameWithoutExtensionGetsTheDefaultOne) {
   // The same as in the filter: where they differ, the system takes that of the filter.
-  save.filter = "SK2 Vehicle files (*.vhc)|*.vhc";
+  save.fileType = "SK2 Vehicle files (*.vhc)";
+  save.pattern = "*.vhc";
   save.defaultExtension = "vhc";
   EXPECT_EQ(Typing("car", save), folder + "\\car.vhc");
   EXPECT_EQ(Typing("truck.vhc", save), folder + "\\truck.vhc");
@@ -243,8 +246,36 @@ TEST_F(FileDialogContract, WithoutADefaultExtensionANameStaysAsTyped) {
 
 TEST_F(FileDialogContract, SavingOverAFileIsConfirmedInTheDialog) {
   TestMachine::PutFile(folder + "\\hill.trk", "1");
-  EXPECT_EQ(Typing("hill.trk", save), folder + "\\hill.trk");
+  EXPECT_EQ(Typing("hill.trk", save, true), folder + "\\hill.trk");
+  EXPECT_EQ(Typing("HILL.TRK", save, true), folder + "\\HILL.TRK");
   EXPECT_EQ(TestMachine::BytesOf(folder + "\\hill.trk"), "1") << "it only asks";
+}
+
+TEST_F(FileDialogContract, TheDialogStaysIfAFileShallNotBeReplaced) {
+  TestMachine::PutFile(folder + "\\hill.trk", "1");
+  TestMachine::WhenModalWindowOpens([&] {
+    TestMachine::ChooseInFileDialog("hill.trk", false);
+    EXPECT_EQ(TestMachine::ActiveWindow(), "Track file");
+    TestMachine::ChooseInFileDialog("lake.trk");
+  });
+  EXPECT_EQ(save.Show(), folder + "\\lake.trk");
+  TestMachine::WhenModalWindowOpens([&] {
+    TestMachine::ChooseInFileDialog("hill.trk", false);
+    TestMachine::LeaveFileDialog();
+  });
+  EXPECT_EQ(save.Show(), "");
+}
+
+TEST_F(FileDialogContract, OpeningAFileAsksNothing) {
+  TestMachine::PutFile(folder + "\\hill.trk", "1");
+  EXPECT_EQ(Typing("hill.trk", open), folder + "\\hill.trk");
+}
+
+TEST_F(FileDialogContract, NoCharacterOfTheFileTypeHasAMeaning) {
+  for (const std::string& type : {std::string("A|B"), std::string("A||"), std::string("A\0B", 3)}) {
+    open.fileType = type;
+    EXPECT_EQ(Typing(folder + "\\hill.trk", open), folder + "\\hill.trk");
+  }
 }
 
 TEST_F(FileDialogContract, ACancelledDialogGivesNothing) {

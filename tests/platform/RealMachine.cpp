@@ -76,6 +76,7 @@ void TearDown() {
   RealMachine::PutBackFiles();
   RealMachine::PutBackSeparators();
   RealMachine::PutBackRegistry();
+  RealMachine::PutBackDocuments();
 }
 
 void SetSeparators(const std::string& decimal, const std::string& thousands) {

@@ -84,21 +84,29 @@ bool TakesNewFiles(const std::string& folder) {
   return true;
 }
 
-// Where the system does not mind such rights, the one beneath it may have a way of its own. Changes
-// nothing if there is none.
-void SetImmutable(const std::string& folder, bool isImmutable) {
+// The path of a file or folder in the system beneath, in its quotes; empty if there is none.
+std::string HostName(const std::string& path) {
   using GetHostName = char*(CDECL*)(const wchar_t*);
   const auto getHostName = reinterpret_cast<GetHostName>(reinterpret_cast<void*>(
       GetProcAddress(GetModuleHandleA("kernel32"), "wine_get_unix_file_name")));
-  if (!getHostName) return;
-  char* const hostName = getHostName(std::wstring(folder.begin(), folder.end()).c_str());
-  if (!hostName) return;
+  if (!getHostName) return "";
+  char* const hostName = getHostName(std::wstring(path.begin(), path.end()).c_str());
+  if (!hostName) return "";
   const std::string name = std::string("'") + hostName + "'";
   HeapFree(GetProcessHeap(), 0, hostName);
+  return name;
+}
+
+// Where the system does not mind rights, the one beneath it may have a way of its own. Changes
+// nothing if there is none.
+//   attribute  "i" for what cannot be changed, "a" for what can only grow; with "+" or "-".
+void SetHostAttribute(const std::string& path, const std::string& attribute) {
+  const std::string name = HostName(path);
+  if (name.empty()) return;
   // The system beneath gives no handle to wait for, so it leaves a mark when it is done.
-  const std::string mark = folder + ".done";
-  std::string command = "\"Z:\\bin\\sh\" -c \"chattr " + std::string(isImmutable ? "+i " : "-i ") +
-                        name + "; touch " + name + ".done\"";
+  const std::string mark = TemporaryFolder() + ".done";
+  std::string command = "\"Z:\\bin\\sh\" -c \"chattr " + attribute + " " + name + "; touch " +
+                        HostName(TemporaryFolder()) + ".done\"";
   STARTUPINFOA start{};
   start.cb = sizeof start;
   PROCESS_INFORMATION process{};
@@ -114,6 +122,11 @@ void SetImmutable(const std::string& folder, bool isImmutable) {
   constexpr ULONGLONG PatienceMs = 10000;
   const ULONGLONG deadline = GetTickCount64() + PatienceMs;
   while (!DeleteFileA(mark.c_str()) && GetTickCount64() < deadline) SwitchToThread();
+}
+
+std::vector<std::string>& OnlyGrowing() {
+  static std::vector<std::string> paths;
+  return paths;
 }
 
 std::vector<std::string>& Refusing() {
@@ -138,7 +151,7 @@ void RemoveFolder(const std::string& folder) {
 // Gives the user back the right to make and delete files in a folder.
 void AllowNewFiles(const std::string& folder) {
   SetRefusal(folder, false);
-  if (!TakesNewFiles(folder)) SetImmutable(folder, false);
+  if (!TakesNewFiles(folder)) SetHostAttribute(folder, "-i");
   EXPECT_TRUE(TakesNewFiles(folder)) << folder << " cannot be written to any more";
 }
 
@@ -157,6 +170,7 @@ void RemoveLeftovers() {
     if (!name.starts_with(start)) continue;
     if (IsRunning(std::strtoul(name.c_str() + start.size(), nullptr, 10))) continue;
     const std::string folder = FolderOfScratchFolders() + name;
+    SetHostAttribute(folder, "-R -a");
     for (const std::string& inside : AllNames(folder)) {
       const std::string path = folder + "\\" + inside;
       const DWORD attributes = GetFileAttributesA(path.c_str());
@@ -231,9 +245,10 @@ int AttributesOf(const std::string& path) {
 }
 
 void Hold(const std::string& path, Sharing sharing) {
-  const HANDLE file =
-      CreateFileA(path.c_str(), GENERIC_READ, sharing == Sharing::ForReading ? FILE_SHARE_READ : 0,
-                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  const DWORD access = sharing == Sharing::ForWriting ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
+  const DWORD shared = sharing == Sharing::WithNobody ? 0 : FILE_SHARE_READ;
+  const HANDLE file = CreateFileA(path.c_str(), access, shared, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
   ASSERT_NE(file, INVALID_HANDLE_VALUE) << path;
   Holds()[path] = file;
 }
@@ -246,14 +261,23 @@ void LetGo(const std::string& path) {
 bool RefuseNewFiles(const std::string& folder) {
   Refusing().push_back(folder);
   SetRefusal(folder, true);
-  if (TakesNewFiles(folder)) SetImmutable(folder, true);
+  if (TakesNewFiles(folder)) SetHostAttribute(folder, "+i");
   return !TakesNewFiles(folder);
 }
 
 }  // namespace TestMachine
 
+bool RealMachine::RefuseShortening(const std::string& path) {
+  if (TestMachine::HostName(path).empty()) return false;
+  TestMachine::OnlyGrowing().push_back(path);
+  TestMachine::SetHostAttribute(path, "+a");
+  return true;
+}
+
 void RealMachine::PutBackFiles() {
   using namespace TestMachine;
+  for (const std::string& path : OnlyGrowing()) SetHostAttribute(path, "-a");
+  OnlyGrowing().clear();
   while (!Holds().empty()) LetGo(std::string(Holds().begin()->first));
   for (const std::string& folder : Refusing()) AllowNewFiles(folder);
   Refusing().clear();

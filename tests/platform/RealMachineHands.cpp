@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <optional>
 #include <set>
 
 #include "platform/Controls.h"
@@ -127,7 +128,7 @@ struct Waiting {
   std::deque<std::function<void()>> actions;
   std::set<HWND> seen;
   UINT_PTR timer = 0;
-  bool saysYes = false;  // to the questions of a file dialog
+  std::optional<bool> replaces;  // the answer to a file dialog's own question, until it comes
 };
 
 Waiting& TheWaiting() {
@@ -135,8 +136,20 @@ Waiting& TheWaiting() {
   return waiting;
 }
 
+// A program that another one has sent to the background has no active window, and boxes that come
+// there wait in vain for keys: brings the one that can be used to the front.
+void ComeToFront() {
+  const auto bring = [](HWND window, LPARAM) -> BOOL {
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+    SetForegroundWindow(window);
+    return FALSE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), bring, 0);
+}
+
 // A window that is new, in use, and keeps its owner from being used.
 HWND NewModalWindow() {
+  if (!GetActiveWindow()) ComeToFront();
   std::erase_if(TheWaiting().seen, [](HWND window) { return !IsWindowVisible(window); });
   const HWND window = GetActiveWindow();
   if (!window || !IsWindowVisible(window) || TheWaiting().seen.contains(window)) return nullptr;
@@ -148,9 +161,13 @@ void CALLBACK LookForModalWindow(HWND, UINT, UINT_PTR, DWORD) {
   Waiting& waiting = TheWaiting();
   const HWND window = NewModalWindow();
   if (!window) return;
-  if (waiting.saysYes) {
+  if (waiting.replaces) {
     waiting.seen.insert(window);
-    PostMessageA(window, WM_COMMAND, IDYES, reinterpret_cast<LPARAM>(GetDlgItem(window, IDYES)));
+    const int button = *waiting.replaces ? IDYES : IDNO;
+    waiting.replaces.reset();
+    const HWND control = GetDlgItem(window, button);
+    EXPECT_NE(control, nullptr) << "no question: " << MessageBoxOnScreen().text;
+    PostMessageA(window, WM_COMMAND, button, reinterpret_cast<LPARAM>(control));
     return;
   }
   if (waiting.actions.empty()) {
@@ -266,15 +283,16 @@ void WhenModalWindowOpens(std::function<void()> action) {
   StartLooking();
 }
 
-void ChooseInFileDialog(const std::string& path) {
+void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces) {
   // The focus is on the box for the file's name.
   const HWND name = GetFocus();
   SendMessageA(name, EM_SETSEL, 0, -1);
   for (const char c : path) PostMessageA(name, WM_CHAR, static_cast<unsigned char>(c), 1);
   RealMachine::Pump();
-  TheWaiting().saysYes = true;
+  TheWaiting().replaces = replaces;
   Press("Enter");
-  TheWaiting().saysYes = false;
+  EXPECT_FALSE(TheWaiting().replaces) << "the dialog did not ask whether to replace " << path;
+  TheWaiting().replaces.reset();
 }
 
 void LeaveFileDialog() {

@@ -71,10 +71,10 @@ int AttributesOf(const std::string& path) {
 }
 
 void Hold(const std::string& path, Sharing sharing) {
-  if (sharing == Sharing::ForReading) {
-    machine->files.Hold(path);
-  } else {
+  if (sharing == Sharing::WithNobody) {
     machine->files.HoldAlone(path);
+  } else {
+    machine->files.Hold(path);
   }
 }
 
@@ -119,6 +119,14 @@ bool HasMutex(const std::string& name) {
 
 bool HasSoundDevice() {
   return machine->sound.IsPluggedIn();
+}
+
+std::string DocumentExtension() {
+  return ".chm";
+}
+
+std::string OpenedDocument() {
+  return machine->shell.Opened().empty() ? "" : machine->shell.Opened().back();
 }
 
 void Press(const std::string& key) {
@@ -193,8 +201,10 @@ MessageBoxSeen MessageBoxOnScreen() {
   return {box->box().title, box->box().text};
 }
 
-void ChooseInFileDialog(const std::string& path) {
+void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces) {
   machine->user.ChoosesFile(path);
+  if (!replaces) return;
+  *replaces ? machine->user.AnswersYes() : machine->user.AnswersNo();
 }
 
 void LeaveFileDialog() {

@@ -46,6 +46,7 @@ int AttributesOf(const std::string& path);
 // Another program has a file open, until the test ends or lets go of it.
 enum class Sharing {
   ForReading,  // others may read it, but not write, replace or delete it
+  ForWriting,  // it is being written, and others may do no more than read it
   WithNobody,  // others cannot even read it
 };
 void Hold(const std::string& path, Sharing sharing);
@@ -82,6 +83,14 @@ bool HasMutex(const std::string& name);
 
 // True if there is a device that can play sounds.
 bool HasSoundDevice();
+
+// --- Documents ---
+
+// The extension, with its dot, of documents for which there is a program on this machine.
+std::string DocumentExtension();
+// Waits until that program has been started with a document, and returns what it was given: its
+// arguments with "|" between them.
+std::string OpenedDocument();
 
 // --- Windows, by keyboard and ear ---
 
@@ -140,9 +149,10 @@ struct MessageBoxSeen {
 MessageBoxSeen MessageBoxOnScreen();
 
 // In an open file dialog: types a path in place of the name that stands there and presses Enter; or
-// leaves it by Escape. The dialog's own questions, such as whether to replace a file, are answered
-// with Yes.
-void ChooseInFileDialog(const std::string& path);
+// leaves it by Escape.
+//   replaces  what is answered to the dialog's own question whether to replace a file. It must come
+//             if there is an answer, and must not come otherwise.
+void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces = std::nullopt);
 void LeaveFileDialog();
 
 }  // namespace TestMachine

@@ -29,7 +29,7 @@ TEST_F(CheckTrackStory, TheDialogShowsTrackFilesOfTheGame) {
   const auto dialog = user.LastFileDialog();
   EXPECT_EQ(dialog.kind, Platform::FileDialog::Kind::Open);
   EXPECT_EQ(dialog.title, "Open Skidrun2 Track file");
-  EXPECT_EQ(dialog.filter, "SK2 Track files (*.trk)|*.trk");
+  EXPECT_EQ(dialog.fileType, "SK2 Track files (*.trk)");
   EXPECT_EQ(dialog.initialFolder, "C:\\Games\\Skidrun2\\tracks");
 }
 
@@ -108,7 +108,7 @@ TEST_F(CheckTrackStory, TitlesComeFromTheLanguageFileUnderTheirOwnKeys) {
   user.ChoosesMenu({"Track", "Check"});
   EXPECT_THAT(user.LastBox(), Shows(Icon::Information, "Keine Datei.", "Hinweis"));
   EXPECT_EQ(user.LastFileDialog().title, "Strecke");
-  EXPECT_EQ(user.LastFileDialog().filter, "Strecken (*.trk)|*.trk");
+  EXPECT_EQ(user.LastFileDialog().fileType, "Strecken (*.trk)");
 }
 
 TEST_F(CheckTrackStory, CtrlCDownAndEnterCheckATrack) {

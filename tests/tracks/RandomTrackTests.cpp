@@ -104,6 +104,50 @@ TEST_F(RandomTrackStory, AnAdventureInTheRootOfADiskIsPrefixedToo) {
   EXPECT_TRUE(machine.files.Exists("C:\\advhill.trk"));
 }
 
+TEST_F(RandomTrackStory, AnAdventureWhoseNameEndsInHalfACharacterThatLooksLikeABackslash) {
+  machine.locale.codePage = 932;
+  user.ChoosesFile("\x95\x5C.trk");
+  user.AnswersYes();
+  user.TypesInBox("1");
+  user.AnswersYes();
+  MakesTrack();
+  EXPECT_EQ(machine.files.Names(Tracks), Names("adv\x95\x5C.trk"));
+}
+
+TEST_F(RandomTrackStory, NoTrackIsReplacedUnasked) {
+  const std::pair<const char*, bool> chosen[] = {
+      {"Lap 1.5", false}, {"City", true}, {"City.trk", true}};
+  machine.files.Put(Tracks + "\\lap 1.5.trk", "an old track");
+  machine.files.Put(Tracks + "\\advcity.trk", "an old track");
+  for (const auto& [name, isAdventure] : chosen) {
+    user.ChoosesFile(name);
+    isAdventure ? user.AnswersYes() : user.AnswersNo();
+    user.AnswersNo();
+    MakesTrack();
+    EXPECT_THAT(user.LastBox(),
+                Shows(Icon::Question, HasSubstr(isAdventure ? "advcity.trk" : "lap 1.5.trk"),
+                      "Replace track"));
+    EXPECT_EQ(user.SeesWindow(), PackTitle);
+  }
+  EXPECT_EQ(machine.files.Text(Tracks + "\\lap 1.5.trk"), "an old track");
+  EXPECT_EQ(machine.files.Text(Tracks + "\\advcity.trk"), "an old track");
+
+  user.ChoosesFile("City");
+  user.AnswersYes();
+  user.AnswersYes();
+  user.TypesInBox("1");
+  user.AnswersNo();
+  MakesTrack();
+  EXPECT_EQ(LinesOfTrack("advcity.trk").size(), 5u);
+}
+
+TEST_F(RandomTrackStory, OtherProgramsAreAnsweredWhileManyPartsAreDrawn) {
+  MakesTrackOf("few", "10");
+  const int before = machine.screen.answers;
+  MakesTrackOf("many", "20000");
+  EXPECT_GE(machine.screen.answers, before + 3);
+}
+
 TEST_F(RandomTrackStory, WithoutAFileNothingIsAsked) {
   user.CancelsFileDialog();
   MakesTrack();
@@ -144,6 +188,7 @@ TEST_F(RandomTrackStory, CancellingAtALaterAskingEndsItToo) {
   machine.files.Put(Tracks + "\\hill.trk", "an old track");
   user.ChoosesFile("hill");
   user.AnswersNo();
+  user.AnswersYes();
   user.TypesInBox("many");
   user.CancelsBox();
   MakesTrack();
@@ -158,6 +203,7 @@ TEST_F(RandomTrackStory, NoPartsOrLessMakeATrackThatTheCheckerRejects) {
     int32_t code = 0;
     std::string message;
     EXPECT_EQ(CheckTrackFile(Tracks + "\\hill.trk", code, message), 1);
+    machine.files.Delete(Tracks + "\\hill.trk");
   }
 }
 
@@ -185,6 +231,7 @@ TEST_F(RandomTrackStory, TheOldTrackStaysUntilTheNewOneIsWhole) {
   machine.files.Put(path, "an old track");
   user.ChoosesFile("hill");
   user.AnswersNo();
+  user.AnswersYes();
   user.WhenWindowOpens("Parts", [&] {
     EXPECT_EQ(machine.files.Text(path), "an old track");
     EXPECT_EQ(user.Hears(), "How many parts do you want for this track?, edit");
@@ -204,6 +251,7 @@ TEST_F(RandomTrackStory, AFullDiskLeavesTheOldTrackAndNothingBesideIt) {
     machine.files.FailWrites(Simulated::After{writes}, RuntimeError::DiskFull);
     user.ChoosesFile("hill");
     user.AnswersNo();
+    user.AnswersYes();
     user.TypesInBox("8000");
     user.AnswersNo();
     MakesTrack();
@@ -222,6 +270,7 @@ TEST_F(RandomTrackStory, ATrackThatCannotBeReplacedIsToldBeforeTheWeatherIsAsked
   machine.files.SetAttributes(path, Simulated::ReadOnly);
   user.ChoosesFile("hill");
   user.AnswersNo();
+  user.AnswersYes();
   user.TypesInBox("3");
   MakesTrack();
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, HasSubstr(Text::LowerAscii(path))));

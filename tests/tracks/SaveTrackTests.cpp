@@ -61,11 +61,44 @@ TEST_F(SaveTrackStory, ARainyTrackOfTwoPartsHasTheEightLinesOfTheFormat) {
 TEST_F(SaveTrackStory, AnOldFileOfTheSameNameIsReplacedAndKeepsItsAttributes) {
   machine.files.Put(Tracks + "\\RACE.trk", "an old track");
   machine.files.SetAttributes(Tracks + "\\RACE.trk", Simulated::Hidden);
+  user.AnswersYes();
   BuildsTwoParts("race");
   SavesSunnyTrack();
   EXPECT_EQ(TrackNamed("race.trk"), TwoParts + "-1\r\n0\r\n");
   EXPECT_EQ(machine.files.Attributes(Tracks + "\\race.trk"), Simulated::Hidden);
   EXPECT_EQ(machine.files.Names(Tracks).size(), 1u);
+}
+
+// The dialog looks for a file under the name as it was typed; the program's own question is about
+// the name that it has made of it.
+TEST_F(SaveTrackStory, NoTrackIsReplacedUnasked) {
+  machine.files.Put(Tracks + "\\Lap 1.5.trk", "an old track");
+  user.AnswersNo();
+  StartsTrack("Lap 1.5");
+  EXPECT_THAT(user.LastBox(), Shows(Icon::Question,
+                                    "This track exists already. Do you want to replace it?\r\n" +
+                                        Tracks + "\\Lap 1.5.trk",
+                                    "Replace track"));
+  EXPECT_EQ(user.LastBox().buttons, Platform::Buttons::YesNoDefaultNo);
+  EXPECT_EQ(user.SeesWindow(), PackTitle);
+  EXPECT_EQ(TheTrack().TrackPath, "");
+
+  user.AnswersYes();
+  StartsTrack("Lap 1.5");
+  EXPECT_EQ(TheTrack().TrackPath, Tracks + "\\Lap 1.5.trk");
+  EXPECT_EQ(TrackNamed("Lap 1.5.trk"), "an old track") << "until the new one is saved";
+}
+
+TEST_F(SaveTrackStory, ANameThatIsTypedWholeIsAskedForByTheDialogAlone) {
+  machine.files.Put(Tracks + "\\Race.trk", "an old track");
+  user.AnswersNo();
+  user.ChoosesFile("Race.trk");
+  user.AnswersYes();
+  StartsTrack("RACE.TRK");
+  ASSERT_EQ(user.Boxes().size(), 2u);
+  EXPECT_EQ(user.Boxes()[0].title, "Confirm Save As");
+  EXPECT_EQ(user.Boxes()[1].title, "Confirm Save As");
+  EXPECT_EQ(TheTrack().TrackPath, Tracks + "\\RACE.TRK");
 }
 
 TEST_F(SaveTrackStory, ATrackWithoutPartsIsWrittenAndTheCheckerRejectsIt) {
@@ -82,6 +115,7 @@ TEST_F(SaveTrackStory, AFileThatCannotBeWrittenIsToldAndThePartsAreKept) {
   const std::string path = Tracks + "\\Race.trk";
   machine.files.Put(path, "an old track");
   machine.files.SetAttributes(path, Simulated::ReadOnly);
+  user.AnswersYes();
   BuildsTwoParts("Race");
   SavesSunnyTrack();
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, HasSubstr(path)));
@@ -99,6 +133,7 @@ TEST_F(SaveTrackStory, AfterAFailedSaveTheTrackCanBeSavedElsewhere) {
   const std::string path = Tracks + "\\Race.trk";
   machine.files.Put(path, "an old track");
   machine.files.HoldAlone(path);
+  user.AnswersYes();
   BuildsTwoParts("Race");
   SavesSunnyTrack();
   ExpectNothingLost(path);
@@ -163,6 +198,16 @@ TEST_F(SaveWithoutATrackStory, WithoutAFileNothingHappens) {
               Shows(Icon::Information, "Trackmaker aborted. No filename selected.", "Aborted"));
   ExpectNothingLost("");
   EXPECT_THAT(machine.files.Names(Tracks), IsEmpty());
+}
+
+TEST_F(SaveWithoutATrackStory, AFileThatShallStayLeavesEverythingAsItWas) {
+  machine.files.Put(Tracks + "\\Other.trk", "an old track");
+  user.ChoosesFile("Other");
+  user.AnswersNo();
+  user.Presses("Alt+S");
+  EXPECT_EQ(user.LastBox().title, "Replace track");
+  ExpectNothingLost("");
+  EXPECT_EQ(TrackNamed("Other.trk"), "an old track");
 }
 
 TEST_F(SaveTrackStory, WriteTextFileEndsTheTextWithALineEnd) {

@@ -57,7 +57,8 @@ void LetEachCallFail(const std::function<void(StartedPack&, Simulated::After)>& 
 
 TEST(TrackFailureSweep, ANewTrackOpensTheEditorOrLeavesTheMainWindow) {
   LetEachCallFail([](StartedPack& pack, Simulated::After after) {
-    pack.user.ChoosesFile("Race");
+    pack.user.ChoosesFile("Race.trk");
+    pack.user.AnswersYes();
     pack.machine.FailAnyCall(after);
     pack.user.ChoosesMenu({"Track", "New"});
     const bool failed = pack.machine.FailureHappened();
@@ -65,7 +66,8 @@ TEST(TrackFailureSweep, ANewTrackOpensTheEditorOrLeavesTheMainWindow) {
       EXPECT_TRUE(failed && pack.WasToldOfAFailure());
       EXPECT_EQ(pack.user.SeesWindow(), PackTitle);
       pack.ForgetTheRest();
-      pack.user.ChoosesFile("Race");
+      pack.user.ChoosesFile("Race.trk");
+      pack.user.AnswersYes();
       pack.user.ChoosesMenu({"Track", "New"});
     }
     EXPECT_EQ(TheTrack().TrackPath, Race);
@@ -75,7 +77,8 @@ TEST(TrackFailureSweep, ANewTrackOpensTheEditorOrLeavesTheMainWindow) {
 
 TEST(TrackFailureSweep, APartIsAddedWhateverFails) {
   LetEachCallFail([](StartedPack& pack, Simulated::After after) {
-    pack.user.ChoosesFile("Race");
+    pack.user.ChoosesFile("Race.trk");
+    pack.user.AnswersYes();
     pack.user.ChoosesMenu({"Track", "New"});
     pack.machine.FailAnyCall(after);
     pack.user.Presses("Alt+P");
@@ -92,7 +95,8 @@ TEST(TrackFailureSweep, APartIsAddedWhateverFails) {
 
 TEST(TrackFailureSweep, ASaveWritesTheWholeTrackOrKeepsItAndTheOldFile) {
   LetEachCallFail([](StartedPack& pack, Simulated::After after) {
-    pack.user.ChoosesFile("Race");
+    pack.user.ChoosesFile("Race.trk");
+    pack.user.AnswersYes();
     pack.user.ChoosesMenu({"Track", "New"});
     TheTrack().TrackText = OnePart;
     pack.user.AnswersYes();
@@ -115,7 +119,8 @@ TEST(TrackFailureSweep, ASaveWritesTheWholeTrackOrKeepsItAndTheOldFile) {
 TEST(TrackFailureSweep, ARandomTrackIsWholeOrNotThereAtAll) {
   LetEachCallFail([](StartedPack& pack, Simulated::After after) {
     const auto makesTrack = [&] {
-      pack.user.ChoosesFile("Race");
+      pack.user.ChoosesFile("Race.trk");
+      pack.user.AnswersYes();
       pack.user.AnswersNo();
       pack.user.TypesInBox("9000");  // more than one block
       pack.user.AnswersNo();

@@ -25,7 +25,7 @@ TEST_F(CheckVehicleStory, TheDialogShowsVehicleFilesOfTheGame) {
   const auto dialog = user.LastFileDialog();
   EXPECT_EQ(dialog.kind, Platform::FileDialog::Kind::Open);
   EXPECT_EQ(dialog.title, "Open Skidrun2 Vehicle file");
-  EXPECT_EQ(dialog.filter, "SK2 Vehicle files (*.vhc)|*.vhc");
+  EXPECT_EQ(dialog.fileType, "SK2 Vehicle files (*.vhc)");
   EXPECT_EQ(dialog.initialFolder, "C:\\Games\\Skidrun2\\vehicles");
 }
 
@@ -97,7 +97,7 @@ TEST_F(CheckVehicleStory, TitlesComeFromTheLanguageFileUnderTheirOwnKeys) {
   user.ChoosesMenu({"Vehicle", "Check"});
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "Keine Datei.", "Sichern"));
   EXPECT_EQ(user.LastFileDialog().title, "Fahrzeug");
-  EXPECT_EQ(user.LastFileDialog().filter, "Fahrzeuge (*.vhc)|*.vhc");
+  EXPECT_EQ(user.LastFileDialog().fileType, "Fahrzeuge (*.vhc)");
 }
 
 TEST_F(CheckVehicleStory, TheGameIsLookedForAtEachCheck) {

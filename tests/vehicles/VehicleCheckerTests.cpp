@@ -326,4 +326,17 @@ TEST(VehicleCheckerSweep, AnyFailureIsAVerdict) {
   EXPECT_GT(calls.size(), 2U) << "hardly a call was made to fail";
 }
 
+TEST_F(VehicleChecker, SoundsLieBesideAFileWhoseNameEndsInHalfABackslash) {
+  machine.locale.codePage = 932;
+  const std::string path = Folder + "\\\x95\x5C.vhc";
+  machine.files.Put(path, "hornsound=horn.wav\r\n");
+  Verdict found{0, 0, "unset"};
+  found.result = CheckVehicleFile(path, found.code, found.message);
+  EXPECT_EQ(found, NoSound(1, "horn.wav"));
+  machine.files.Put(Folder + "\\horn.wav", "sound");
+  found = {0, 0, "unset"};
+  found.result = CheckVehicleFile(path, found.code, found.message);
+  EXPECT_EQ(found, Passed());
+}
+
 }  // namespace

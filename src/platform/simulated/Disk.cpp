@@ -6,19 +6,23 @@
 #include <iterator>
 #include <utility>
 
-#include "base/File.h"
-#include "base/Text.h"
-#include "platform/simulated/Complaints.h"
+#include "platform/Characters.h"
+#include "platform/Paths.h"
+#include "platform/simulated/Machine.h"
 
 namespace Simulated {
 
 std::string FoldCase(std::string_view text) {
+  const LocaleSettings& locale = TheMachine().locale;
   std::string folded(text);
-  for (char& c : folded) {
-    const unsigned char byte = static_cast<unsigned char>(c);
-    const bool isCapital = (byte >= 'A' && byte <= 'Z') ||
-                           (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);  // 0xD7 multiplies
-    if (isCapital) c = static_cast<char>(byte + 0x20);
+  for (size_t i = 0; i < folded.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(folded[i]);
+    const bool isWestern = locale.codePage == 1252;
+    const bool isCapital =
+        (byte >= 'A' && byte <= 'Z') ||
+        (isWestern && byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);  // 0xD7 multiplies
+    if (isCapital) folded[i] = static_cast<char>(byte + 0x20);
+    if (locale.IsLeadByte(folded[i])) ++i;
   }
   return folded;
 }
@@ -26,25 +30,43 @@ std::string FoldCase(std::string_view text) {
 namespace {
 
 bool EndsInSeparator(const std::string& path) {
-  return path.ends_with('\\') || path.ends_with('/');
+  return Platform::NameOf(path).empty() || path.ends_with('/');
+}
+
+// The names on the way to a file, letter case folded.
+std::vector<std::string> NamesOn(const std::string& path) {
+  std::vector<std::string> names(1);
+  const std::string folded = FoldCase(path);
+  for (size_t i = 0; i < folded.size(); ++i) {
+    if (folded[i] == '\\' || folded[i] == '/') {
+      names.emplace_back();
+      continue;
+    }
+    names.back() += folded[i];
+    if (Platform::IsLeadByte(folded[i]) && i + 1 < folded.size()) names.back() += folded[++i];
+  }
+  return names;
 }
 
 // Under what a path is found: letter case does not count, "." and ".." are resolved by their words
 // alone, and dots and blanks at the path's end are dropped.
 std::string KeyOf(const std::string& path) {
-  std::string folded = FoldCase(path);
-  std::replace(folded.begin(), folded.end(), '/', '\\');
   std::vector<std::string> names;
-  for (const std::string& name : Text::Split(folded, "\\")) {
+  for (const std::string& name : NamesOn(path)) {
     if (name == "..") {
       if (names.size() > 1) names.pop_back();
     } else if (!name.empty() && name != ".") {
       names.push_back(name);
     }
   }
+  while (!EndsInSeparator(path) && !names.empty()) {
+    std::string& last = names.back();
+    last.erase(last.find_last_not_of(" .") + 1);
+    if (!last.empty()) break;
+    names.pop_back();
+  }
   std::string key;
   for (const std::string& name : names) key.append(key.empty() ? "" : "\\").append(name);
-  if (!EndsInSeparator(path)) key.erase(key.find_last_not_of(" .\\") + 1);
   return key;
 }
 
@@ -60,12 +82,8 @@ uint64_t SizeOf(const DiskEntry& entry) {
   return entry.hostPath.empty() ? entry.bytes.size() : std::filesystem::file_size(entry.hostPath);
 }
 
-Disk::Disk() {
-  PutFolder("C:");
-}
-
 void Disk::Put(const std::string& path, std::string_view bytes) {
-  PutFolder(File::FolderOf(path));
+  PutFolder(Platform::FolderOf(path));
   DiskEntry& file = Make(path);
   file.bytes = bytes;
   file.hostPath.clear();
@@ -74,7 +92,7 @@ void Disk::Put(const std::string& path, std::string_view bytes) {
 
 void Disk::PutFolder(const std::string& path) {
   if (path.empty() || Find(path)) return;
-  PutFolder(File::FolderOf(path));
+  PutFolder(Platform::FolderOf(path));
   Make(path).isFolder = true;
 }
 
@@ -102,12 +120,9 @@ std::string Disk::Text(const std::string& path) const {
 
 std::vector<std::string> Disk::Names(const std::string& folder) const {
   std::vector<std::string> names;
-  const std::string start = KeyOf(folder) + "\\";
-  for (auto at = entries_.lower_bound(start); at != entries_.end(); ++at) {
-    if (!at->first.starts_with(start)) break;
-    if (at->first.find('\\', start.size()) == std::string::npos) {
-      names.push_back(File::NameOf(at->second->path));
-    }
+  const std::string key = KeyOf(folder);
+  for (const auto& [place, entry] : entries_) {
+    if (Platform::FolderOf(place) == key) names.push_back(Platform::NameOf(entry->path));
   }
   return names;
 }

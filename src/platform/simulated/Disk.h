@@ -29,18 +29,17 @@ struct DiskEntry : std::enable_shared_from_this<DiskEntry> {
   int attributes = NoAttributes;
   uint64_t lastWrite = 0;
   int readers = 0;             // open readers of the program
-  bool isHeld = false;         // another program reads it: it cannot be written or deleted
+  bool isHeld = false;         // another program has it open: it cannot be written or deleted
   bool isHeldAlone = false;    // another program has it for itself: it cannot even be read
   bool refusesFiles = false;   // a folder in which no file can be made or deleted
   bool refusesWrites = false;  // a file that the user has no right to write
 
-  bool IsInUse() const { return readers > 0 || isHeld || isHeldAlone; }
+  bool IsHeldByOthers() const { return isHeld || isHeldAlone; }
+  bool IsInUse() const { return readers > 0 || IsHeldByOthers(); }
 };
 
 class Disk {
  public:
-  Disk();
-
   // What tests prepare and look at. Paths are absolute; folders on the way are made.
 
   // A file with these bytes, as another program would write it: attributes and letter case of a
@@ -63,7 +62,8 @@ class Disk {
   void SetAttributes(const std::string& path, int attributes);
   int Attributes(const std::string& path) const;
 
-  // Another program opens a file for reading: it cannot be written or deleted until Release.
+  // Another program opens a file, to read or to write it, and lets others read it only: it cannot
+  // be written or deleted until Release.
   void Hold(const std::string& path);
   // Another program opens a file for itself alone: it cannot be read either until Release.
   void HoldAlone(const std::string& path);
@@ -108,7 +108,7 @@ class Disk {
 std::string BytesOf(const DiskEntry& entry);
 uint64_t SizeOf(const DiskEntry& entry);
 
-// A text in Windows' code page 1252 with its capital letters turned into small ones, as the disk
+// A text in the machine's code page with its capital letters turned into small ones, as the disk
 // and the registry compare names.
 std::string FoldCase(std::string_view text);
 

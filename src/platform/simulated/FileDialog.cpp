@@ -1,17 +1,40 @@
 #include "platform/FileDialog.h"
 
-#include "base/File.h"
 #include "base/RuntimeError.h"
 #include "platform/Forms.h"
+#include "platform/MsgBox.h"
+#include "platform/Paths.h"
 #include "platform/simulated/Machine.h"
 
 namespace Platform {
+
+namespace {
+
+// The full path of what the user typed.
+std::string Completed(const FileDialog& dialog, std::string path) {
+  if (NameOf(path) == path) path = dialog.initialFolder + "\\" + path;
+  if (!dialog.defaultExtension.empty() && NameOf(path).find('.') == std::string::npos) {
+    path += "." + dialog.defaultExtension;
+  }
+  return path;
+}
+
+// The dialog's own question, if saving under the path would replace a file.
+bool MayBeChosen(const FileDialog& dialog, const std::string& path) {
+  if (dialog.kind() == FileDialog::Kind::Open || !Simulated::TheMachine().files.Exists(path)) {
+    return true;
+  }
+  return MsgBox(NameOf(path) + " already exists.\r\nDo you want to replace it?", "Confirm Save As",
+                Icon::Question, Buttons::YesNoDefaultNo) == Answer::Yes;
+}
+
+}  // namespace
 
 std::string FileDialog::Show() {
   Simulated::Machine& machine = Simulated::TheMachine();
   Simulated::Script& script = machine.user.script();
   if (machine.faults.Strikes("FileDialog " + title)) throw RuntimeError(RuntimeError::DeviceError);
-  script.fileDialogs.push_back({kind_, title, filter, defaultExtension, initialFolder});
+  script.fileDialogs.push_back({kind_, title, fileType, pattern, defaultExtension, initialFolder});
   if (title.empty()) Simulated::Complain("a file dialog without a title");
   const Form* owner = ActiveForm();
   if (owner && !owner->IsVisible()) Simulated::Complain("a file dialog over nothing: " + title);
@@ -20,18 +43,17 @@ std::string FileDialog::Show() {
     (*action)();
     machine.screen.dialogs.pop_back();
   }
-  if (script.files.empty()) {
-    Simulated::Complain("an unexpected file dialog: " + title);
-    return "";
+  for (;;) {
+    if (script.files.empty()) {
+      Simulated::Complain("an unexpected file dialog: " + title);
+      return "";
+    }
+    const std::string typed = script.files.front();
+    script.files.pop_front();
+    if (typed.empty()) return "";
+    const std::string path = Completed(*this, typed);
+    if (MayBeChosen(*this, path)) return path;
   }
-  std::string path = script.files.front();
-  script.files.pop_front();
-  if (path.empty()) return path;
-  if (path.find('\\') == std::string::npos) path = initialFolder + "\\" + path;
-  if (!defaultExtension.empty() && File::NameOf(path).find('.') == std::string::npos) {
-    path += "." + defaultExtension;
-  }
-  return path;
 }
 
 }  // namespace Platform

@@ -4,8 +4,9 @@
 #include <cstring>
 #include <fstream>
 
-#include "base/File.h"
 #include "base/RuntimeError.h"
+#include "platform/Characters.h"
+#include "platform/Paths.h"
 #include "platform/simulated/Machine.h"
 
 namespace Platform {
@@ -22,6 +23,7 @@ bool IsUsable(const std::string& path) {
   for (size_t i = 0; i < path.size(); ++i) {
     if (static_cast<unsigned char>(path[i]) < ' ' || std::strchr("<>\"|?*", path[i])) return false;
     if (path[i] == ':' && i != 1) return false;
+    if (IsLeadByte(path[i])) ++i;
   }
   return true;
 }
@@ -41,7 +43,7 @@ void RequireUsable(const std::string& path) {
 }
 
 DiskEntry* FolderHolding(const std::string& path) {
-  DiskEntry* folder = TheDisk().Find(File::FolderOf(path));
+  DiskEntry* folder = TheDisk().Find(FolderOf(path));
   return folder && folder->isFolder ? folder : nullptr;
 }
 
@@ -113,9 +115,9 @@ void WriteWholeFile(const std::string& path, std::string_view bytes) {
 void AppendToFile(const std::string& path, std::string_view bytes) {
   if (Strikes("AppendToFile", path)) throw RuntimeError(RuntimeError::DiskFull, path);
   RequireWritable(path);
-  RequireUnused(path);
-  TheDisk().CountWrite(path);
   const DiskEntry* file = TheDisk().Find(path);
+  if (file && file->IsHeldByOthers()) throw RuntimeError(RuntimeError::PermissionDenied, path);
+  TheDisk().CountWrite(path);
   PutInPlace(path, (file ? BytesOf(*file) : "").append(bytes));
   TheDisk().Find(path)->appended.append(bytes);
 }
@@ -182,7 +184,7 @@ struct FileWriter::Open {
   explicit Open(const std::string& finalPath) : path(finalPath) {
     if (FolderHolding(path)->refusesFiles) return;  // it is rewritten in place at the end
     for (int i = 0; temporaryPath.empty(); ++i) {
-      const std::string free = File::FolderOf(path) + "\\~sk" + std::to_string(i) + ".tmp";
+      const std::string free = FolderOf(path) + "\\~sk" + std::to_string(i) + ".tmp";
       if (!TheDisk().Exists(free)) temporaryPath = free;
     }
     TheDisk().Make(temporaryPath);

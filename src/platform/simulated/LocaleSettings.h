@@ -1,4 +1,4 @@
-// The user's number format on the simulated machine.
+// The user's number format and code page on the simulated machine.
 #pragma once
 
 #include <string>
@@ -9,10 +9,24 @@ struct LocaleSettings {
   std::string decimal = ".";
   std::string thousands = ",";
   std::string currency = "$";
+  // Windows' Western one, or 932, 936, 949 or 950, in which a character may take two bytes.
+  int codePage = 1252;
 
   void SetSeparators(const std::string& newDecimal, const std::string& newThousands) {
     decimal = newDecimal;
     thousands = newThousands;
+  }
+
+  // True if the byte is the first of two in the code page.
+  bool IsLeadByte(char byte) const {
+    const auto value = static_cast<unsigned char>(byte);
+    switch (codePage) {
+      case 932: return (value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC);
+      case 936:
+      case 949:
+      case 950: return value >= 0x81 && value <= 0xFE;
+      default: return false;
+    }
   }
 };
 

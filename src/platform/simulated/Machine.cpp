@@ -21,6 +21,7 @@ Machine& TheMachine() {
 Machine::Machine() {
   if (theMachine) Complain("there is a machine already");
   theMachine = this;
+  files.PutFolder("C:");
   files.PutFolder(executable.folder);
 }
 

@@ -15,6 +15,8 @@ struct Screen {
   std::vector<std::string> dialogs;    // titles of open file dialogs, the one in use last
   bool refusesWindows = false;         // showing one fails, as when memory has run out
 
+  int answers = 0;  // how often a long step has answered other programs
+
   // The box that has the keyboard, if one has it.
   OpenBox* BoxInUse() const { return boxes.empty() ? nullptr : boxes.back(); }
   // The titles of all that is shown, boxes and dialogs included, sorted.

@@ -26,7 +26,8 @@ struct Box {
 struct FileDialogSeen {
   Platform::FileDialog::Kind kind = Platform::FileDialog::Kind::Open;
   std::string title;
-  std::string filter;
+  std::string fileType;
+  std::string pattern;
   std::string defaultExtension;
   std::string initialFolder;
 };

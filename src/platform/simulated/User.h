@@ -18,7 +18,8 @@ class User {
   // --- What the user will do when asked; each step is used once, in this order. ---
 
   // In the next file dialog. A bare name is one in the dialog's initial folder; a name without an
-  // extension gets the dialog's. Saving over a file is confirmed.
+  // extension gets the dialog's. Where that would replace a file the dialog asks, in a box that is
+  // answered as all others; on No it stays and takes the next of these steps.
   void ChoosesFile(const std::string& path) { script_.files.push_back(path); }
   void CancelsFileDialog() { script_.files.emplace_back(); }
 

@@ -7,7 +7,8 @@
 namespace Platform {
 
 std::wstring Widen(std::string_view text);
-// What the code page cannot hold becomes "?".
+// What the code page cannot hold becomes "?", or whatever character the page has for that; never a
+// letter that only looks alike.
 std::string Narrow(std::wstring_view text);
 
 }  // namespace Platform

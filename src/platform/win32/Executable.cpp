@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "base/File.h"
+#include "platform/Paths.h"
 #include "platform/win32/CodePage.h"
 #include "platform/win32/System.h"
 
@@ -61,11 +61,11 @@ std::string VersionText(const std::vector<char>& resource, const wchar_t* name) 
 }  // namespace
 
 std::string ProgramFolder() {
-  return File::FolderOf(Path());
+  return FolderOf(Path());
 }
 
 std::string ExecutableName() {
-  const std::string name = File::NameOf(Narrow(WidePath()));
+  const std::string name = NameOf(Narrow(WidePath()));
   return name.substr(0, name.rfind('.'));
 }
 

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "base/RuntimeError.h"
+#include "platform/Characters.h"
 
 namespace Platform {
 
@@ -81,13 +82,23 @@ bool IsNameUsable(const std::string& path) {
       return false;
     }
     // In a code page of two bytes a character, the second may look like one of the above.
-    if (IsDBCSLeadByte(c)) ++i;
+    if (IsLeadByte(path[i])) ++i;
   }
   return true;
 }
 
 void CheckName(const std::string& path) {
   if (!IsNameUsable(path)) throw NameNotUsable(path);
+}
+
+DWORD CheckWritable(const std::string& path) {
+  CheckName(path);
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES &&
+      (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))) {
+    throw RuntimeError(RuntimeError::PathFileAccess, path);
+  }
+  return attributes;
 }
 
 }  // namespace Platform

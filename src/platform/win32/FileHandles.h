@@ -15,8 +15,8 @@ namespace Platform {
 class OpenFile {
  public:
   OpenFile() = default;
-  // What CreateFileA asks for: access, sharing and disposition. Not usable if isOpen is false; the
-  // reason is in error. Only files on a disk are opened, never devices.
+  // What CreateFileA asks for: access, sharing and disposition. Not usable if IsOpen() is false;
+  // the reason is in error(). Only files on a disk are opened, never devices.
   OpenFile(const std::string& path, DWORD access, DWORD sharing, DWORD disposition,
            DWORD attributes = FILE_ATTRIBUTE_NORMAL);
 

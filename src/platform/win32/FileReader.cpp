@@ -10,8 +10,9 @@ struct FileReader::Open {
 FileReader::FileReader(const std::string& path) {
   CheckName(path);
   open_ = std::make_unique<Open>();
-  open_->file =
-      OpenFile(path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN);
+  // A file that another program is still writing is no missing one.
+  open_->file = OpenFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING,
+                         FILE_FLAG_SEQUENTIAL_SCAN);
   if (!open_->file.IsOpen()) FailWith(open_->file.error(), path, Access::Reading);
 }
 

@@ -2,21 +2,22 @@
 #include <optional>
 #include <vector>
 
-#include "base/File.h"
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/win32/FileHandles.h"
 
 namespace Platform {
 
 namespace {
 
-// A file of our own with a name that no one else has. Until it is kept, it vanishes with its
-// handle, even if the program is ended meanwhile.
+// A file of our own with a name that no one else has. Unless it is told to stay, it vanishes with
+// its handle, even if the program is ended meanwhile.
 class TemporaryFile {
  public:
-  // Makes one in a folder. If that fails, it is not open and file().error() tells why.
+  // Makes one in a folder. If that fails, or there is no folder, it is not open.
   explicit TemporaryFile(const std::string& folder) {
+    if (folder.empty()) return;
     // The name is so short that it can be had in every folder in which a file can be made at all.
     static DWORD number = GetTickCount() ^ GetCurrentProcessId() << 8;
     do {
@@ -29,7 +30,7 @@ class TemporaryFile {
   TemporaryFile(TemporaryFile&&) noexcept = default;
   TemporaryFile& operator=(TemporaryFile&&) noexcept = default;
   ~TemporaryFile() {
-    if (!file_.IsOpen()) return;
+    if (!file_.IsOpen() || mustStay_) return;
     const std::string path = file_.path();
     file_ = OpenFile();
     // Not every disk lets a file vanish by itself.
@@ -37,6 +38,19 @@ class TemporaryFile {
   }
 
   OpenFile& file() { return file_; }
+
+  // Flushes the file, which from now on outlives the program until it may go again.
+  void Stay() {
+    file_.Flush();
+    if (doesVanish_ && !SetVanishing(false))
+      FailWith(GetLastError(), file_.path(), Access::Writing);
+    doesVanish_ = false;
+    mustStay_ = true;
+  }
+  void MayGo() {
+    doesVanish_ = SetVanishing(true);
+    mustStay_ = false;
+  }
 
   // Flushes and closes the file, which stays under its name from now on. If that fails, it is gone.
   void Keep() {
@@ -62,17 +76,17 @@ class TemporaryFile {
 
   OpenFile file_;
   bool doesVanish_ = false;
+  bool mustStay_ = false;
 };
 
 std::string SystemTemporaryFolder() {
   char path[MAX_PATH + 1];
   const DWORD length = GetTempPathA(sizeof path, path);
   if (length == 0 || length >= sizeof path) return {};
-  return File::FolderOf(std::string(path, length));
+  return FolderOf(std::string(path, length));
 }
 
-void Copy(OpenFile& from, OpenFile& to) {
-  std::vector<char> block(size_t{1} << 20);
+void Copy(OpenFile& from, OpenFile& to, std::vector<char>& block) {
   from.Seek(0);
   to.Seek(0);
   while (const size_t count = from.Read(block.data(), block.size())) {
@@ -80,25 +94,40 @@ void Copy(OpenFile& from, OpenFile& to) {
   }
 }
 
-// Gives an open file the contents of another. If that fails half way, the old contents, which were
-// put aside before, are put back.
-void RewriteInPlace(OpenFile& target, OpenFile& contents) {
-  TemporaryFile old(SystemTemporaryFolder());
-  if (!old.file().IsOpen()) FailWith(old.file().error(), target.path(), Access::Writing);
-  Copy(target, old.file());
-  const uint64_t oldLength = target.Size();
-  const uint64_t length = contents.Size();
+// Puts the old contents of a file back. False if that fails too.
+bool PutBack(TemporaryFile& old, OpenFile& target, uint64_t length, std::vector<char>& block) {
   try {
-    if (length > oldLength) target.SetLength(length);
-    Copy(contents, target);
-    target.SetLength(length);
+    if (target.Size() != length) target.SetLength(length);  // first: that hardly ever fails
+    Copy(old.file(), target, block);
     target.Flush();
   } catch (const RuntimeError&) {
-    Copy(old.file(), target);
-    target.SetLength(oldLength);
+    return false;
+  }
+  return true;
+}
+
+// Gives an open file the contents of another. If that fails half way, the old contents, which were
+// put aside before, are put back.
+//   refusal  why the folder took no new file: what is told if nothing can be put aside.
+void RewriteInPlace(OpenFile& target, OpenFile& contents, DWORD refusal) {
+  std::vector<char> block(size_t{1} << 20);
+  const uint64_t oldLength = target.Size();
+  const uint64_t length = contents.Size();
+  TemporaryFile old(SystemTemporaryFolder());
+  if (!old.file().IsOpen()) FailWith(refusal, target.path(), Access::Writing);
+  Copy(target, old.file(), block);
+  old.Stay();
+  try {
+    if (length > oldLength) target.SetLength(length);
+    Copy(contents, target, block);
+    target.SetLength(length);
     target.Flush();
+  } catch (...) {
+    // What could not be put back is still in the file that was put aside, and that one stays.
+    if (PutBack(old, target, oldLength, block)) old.MayGo();
     throw;
   }
+  old.MayGo();
 }
 
 }  // namespace
@@ -108,10 +137,11 @@ struct FileWriter::Open {
   TemporaryFile temporary;
   // The file itself, where its folder takes no new files.
   std::optional<OpenFile> inPlace;
+  DWORD refusal = ERROR_SUCCESS;  // why it takes none
 
-  explicit Open(const std::string& target) : path(target), temporary(File::FolderOf(target)) {
+  explicit Open(const std::string& target) : path(target), temporary(FolderOf(target)) {
     if (temporary.file().IsOpen()) return;
-    const DWORD refusal = temporary.file().error();
+    refusal = temporary.file().error();
     const DWORD error = TryWhileInUse([&] {
       inPlace = OpenFile(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING);
       return inPlace->error();
@@ -149,12 +179,7 @@ struct FileWriter::Open {
 };
 
 FileWriter::FileWriter(const std::string& path) {
-  CheckName(path);
-  const DWORD attributes = GetFileAttributesA(path.c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES &&
-      (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))) {
-    throw RuntimeError(RuntimeError::PathFileAccess, path);
-  }
+  CheckWritable(path);
   open_ = std::make_unique<Open>(path);
 }
 
@@ -172,7 +197,7 @@ void FileWriter::Write(std::string_view bytes) {
 void FileWriter::Finish() {
   try {
     if (open_->inPlace) {
-      RewriteInPlace(*open_->inPlace, open_->temporary.file());
+      RewriteInPlace(*open_->inPlace, open_->temporary.file(), open_->refusal);
     } else {
       open_->PutInPlace();
     }

@@ -51,21 +51,9 @@ void WriteWholeFile(const std::string& path, std::string_view bytes) {
 }
 
 void AppendToFile(const std::string& path, std::string_view bytes) {
-  CheckName(path);
-  OpenFile file;
-  bool isNew = false;
-  const DWORD error = TryWhileInUse([&] {
-    // A write-protected file or a folder will not change by waiting.
-    const DWORD attributes = GetFileAttributesA(path.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES &&
-        (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))) {
-      throw RuntimeError(RuntimeError::PathFileAccess, path);
-    }
-    isNew = attributes == INVALID_FILE_ATTRIBUTES;
-    file = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
-    return file.error();
-  });
-  if (error != ERROR_SUCCESS) FailWith(error, path, Access::Writing);
+  const bool isNew = CheckWritable(path) == INVALID_FILE_ATTRIBUTES;
+  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+  if (!file.IsOpen()) FailWith(file.error(), path, Access::Writing);
 
   const uint64_t length = file.Size();
   file.Seek(length);

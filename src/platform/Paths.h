@@ -1,10 +1,11 @@
-// The parts of a path. Paths use "\" between folders.
+// The parts of a path in the system code page. Paths use "\" between folders; a byte "\" that is
+// the second half of a character is none.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-namespace File {
+namespace Platform {
 
 // The path up to, and not including, its last backslash; empty if there is none.
 std::string FolderOf(std::string_view path);
@@ -15,4 +16,4 @@ std::string NameOf(std::string_view path);
 // True if the path ends in an extension such as ".trk", whatever its letter case.
 bool HasExtension(std::string_view path, std::string_view extension);
 
-}  // namespace File
+}  // namespace Platform
