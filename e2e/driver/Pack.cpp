@@ -133,8 +133,8 @@ void Pack::Meet(const Window& window) {
   if (isNew) SavePictureOf(window.rectangle(), title);
   if (FileDialogDriver::IsFileDialog(window)) return;
   for (const std::string& line : LastinglyBroken(window)) {
-    if (!told_.insert(title + line).second) continue;
-    ADD_FAILURE() << "\"" << title << "\" breaks " << line;
+    told_.insert(line);
+    ADD_FAILURE() << line;
   }
 }
 
@@ -142,10 +142,14 @@ std::vector<std::string> Pack::LastinglyBroken(const Window& window) const {
   constexpr ULONGLONG LongestMomentMs = 2000;
   const ULONGLONG deadline = GetTickCount64() + LongestMomentMs;
   while (true) {
-    const auto lines = IsBox(window) ? BrokenBoxRules(window) : BrokenRules(window);
+    std::vector<std::string> news;
+    for (const auto& rule : IsBox(window) ? BrokenBoxRules(window) : BrokenRules(window)) {
+      const std::string line = "\"" + window.text() + "\" breaks " + rule;
+      if (!told_.count(line)) news.push_back(line);
+    }
     // The key that was pressed last may just be closing the window.
-    if (lines.empty() || !window.Exists() || !IsInFront(window)) return {};
-    if (GetTickCount64() > deadline) return lines;
+    if (news.empty() || !window.Exists() || !IsInFront(window)) return {};
+    if (GetTickCount64() > deadline) return news;
     Sleep(1);  // between two looks
   }
 }

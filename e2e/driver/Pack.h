@@ -57,14 +57,14 @@ class Pack {
   bool IsInFront(const Window& window) const;
   Window WaitInFront(const std::string& what, const std::function<bool(const Window&)>& isIt);
   void Meet(const Window& window);
-  // The rules that the window breaks; not those that it breaks for a moment while it changes, for
-  // it goes on while it is looked at. None if it is in front no more.
+  // What the window breaks and was not told of before; not what it breaks for a moment while it
+  // changes, for it goes on while it is looked at. None if it is in front no more.
   std::vector<std::string> LastinglyBroken(const Window& window) const;
   void WaitUntilGone(const Window& window);
 
   RunningProgram program_;
   std::set<std::string> met_;
-  std::set<std::string> told_;  // what was found broken, told once
+  std::set<std::string> told_;  // what was found broken
 };
 
 // Saves a picture of a part of the screen, named after the running test and the given words.
