@@ -106,7 +106,6 @@ TEST_F(LanguageFile, WriteProtectedFileIsReadAndLeftAsItIs) {
   EXPECT_EQ(pack.AnswerBox(), Information("Check complete", "Score file checked with no errors."));
   pack.WaitForMain();
   EXPECT_EQ(ReadFile(file), "XFile=&Datei\r\n");
-  SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 }  // namespace

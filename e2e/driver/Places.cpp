@@ -27,6 +27,13 @@ ScratchFolder::ScratchFolder() {
 }
 
 ScratchFolder::~ScratchFolder() {
+  // Write-protected files are not removed.
+  std::error_code ignored;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(path_, ignored)) {
+    if (entry.is_regular_file(ignored)) {
+      SetFileAttributesA(entry.path().string().c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+  }
   // A program that has just been ended may hold its own file for a moment.
   try {
     WaitUntil(path_ + " removed", [this] {

@@ -155,7 +155,8 @@ void AllowNewFiles(const std::string& folder) {
   EXPECT_TRUE(TakesNewFiles(folder)) << folder << " cannot be written to any more";
 }
 
-bool IsRunning(DWORD processId) {
+bool IsAnotherRunning(DWORD processId) {
+  if (processId == GetCurrentProcessId()) return false;  // numbers are given out again
   const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
   if (!process) return false;
   const bool isRunning = WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
@@ -168,7 +169,7 @@ void RemoveLeftovers() {
   const std::string start = ScratchName;
   for (const std::string& name : AllNames(FolderOfScratchFolders())) {
     if (!name.starts_with(start)) continue;
-    if (IsRunning(std::strtoul(name.c_str() + start.size(), nullptr, 10))) continue;
+    if (IsAnotherRunning(std::strtoul(name.c_str() + start.size(), nullptr, 10))) continue;
     const std::string folder = FolderOfScratchFolders() + name;
     SetHostAttribute(folder, "-R -a");
     for (const std::string& inside : AllNames(folder)) {
