@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "tests/Texts.h"
 
 namespace {
 
@@ -191,7 +192,7 @@ TEST(SourceTree, OnlyTheRealMachineKnowsWindowsHeaders) {
   };
   for (const SourceFile& file : AllFiles()) {
     if (IsIn(file.path, "src/platform/win32") || IsIn(file.path, "orec") ||
-        IsIn(file.path, "e2e") || Text::Contains(file.path, "/RealMachine")) {
+        IsIn(file.path, "e2e") || Texts::Contains(file.path, "/RealMachine")) {
       continue;
     }
     for (const std::string& name : file.system) {
@@ -216,7 +217,7 @@ TEST(SourceTree, TheProgramKnowsItsMachineByTheSharedHeadersAlone) {
 TEST(SourceTree, NoConditionOnTheMachineStandsOutsideOfIt) {
   for (const SourceFile& file : AllFiles()) {
     if (!IsIn(file.path, "src") || IsIn(file.path, "src/platform/win32")) continue;
-    EXPECT_FALSE(Text::Contains(TextOf(file.path), "_WIN32")) << file.path;
+    EXPECT_FALSE(Texts::Contains(TextOf(file.path), "_WIN32")) << file.path;
   }
 }
 
@@ -237,7 +238,7 @@ TEST(SourceTree, NoHeaderIsCalledLikeOneOfTheSystem) {
 TEST(SourceTree, EveryHeaderIsGuarded) {
   for (const SourceFile& file : AllFiles()) {
     if (!file.path.ends_with(".h")) continue;
-    EXPECT_TRUE(Text::Contains(TextOf(file.path), "#pragma once")) << file.path;
+    EXPECT_TRUE(Texts::Contains(TextOf(file.path), "#pragma once")) << file.path;
   }
 }
 
@@ -251,7 +252,7 @@ TEST(SourceTree, EveryTableOfTextsIsListedForTheTranslators) {
     const std::string text = TextOf(file.path);
     for (std::sregex_iterator found(text.begin(), text.end(), table), end; found != end; ++found) {
       const std::string name = (*found)[1];
-      EXPECT_TRUE(Text::Contains(TextOf(list), "  add(" + name + ");")) << name;
+      EXPECT_TRUE(Texts::Contains(TextOf(list), "  add(" + name + ");")) << name;
       ++tables;
     }
   }
@@ -265,7 +266,7 @@ TEST(SourceTree, TheRealMachineHasNoColoursOfItsOwn) {
     const std::string text = TextOf(file.path);
     for (const char* colour : {"RGB(", "WM_CTLCOLOR", "CreateSolidBrush", "SetTextColor",
                                "SetBkColor", "NM_CUSTOMDRAW", "_OWNERDRAW"}) {
-      EXPECT_FALSE(Text::Contains(text, colour)) << file.path << " has " << colour;
+      EXPECT_FALSE(Texts::Contains(text, colour)) << file.path << " has " << colour;
     }
   }
 }
@@ -279,7 +280,7 @@ TEST(SourceTree, TheProgramTakesNothingFromOthers) {
     ++files;
     for (const char* taken : {"TOPMOST", "RegisterHotKey", "SetWindowsHook", "SetForegroundWindow",
                               "BlockInput", "requireAdministrator", "highestAvailable"}) {
-      EXPECT_FALSE(Text::Contains(text, taken)) << path << " has " << taken;
+      EXPECT_FALSE(Texts::Contains(text, taken)) << path << " has " << taken;
     }
   };
   for (const SourceFile& file : AllFiles()) {
@@ -306,7 +307,7 @@ TEST(SourceTree, EveryWindowIsOneThatTheTestsOfTheProgramOpen) {
   EXPECT_THAT(windows, testing::IsSupersetOf({"SK2UtilityPack", "NewWhat", "HighScores"}));
   for (const std::string& name : windows) {
     if (others.count(name)) continue;
-    EXPECT_TRUE(Text::Contains(openings, "{\"" + name + "\",")) << name << " is not in it";
+    EXPECT_TRUE(Texts::Contains(openings, "{\"" + name + "\",")) << name << " is not in it";
   }
 }
 

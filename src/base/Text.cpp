@@ -27,19 +27,4 @@ std::string Replace(std::string_view text, std::string_view piece, std::string_v
   return result.append(text, from);
 }
 
-std::vector<std::string> Split(std::string_view text, std::string_view separator) {
-  std::vector<std::string> pieces;
-  size_t from = 0;
-  for (size_t at; (at = text.find(separator, from)) != std::string_view::npos;
-       from = at + separator.size()) {
-    pieces.emplace_back(text.substr(from, at - from));
-  }
-  pieces.emplace_back(text.substr(from));
-  return pieces;
-}
-
-bool Contains(std::string_view text, std::string_view piece) {
-  return text.find(piece) != std::string_view::npos;
-}
-
 }  // namespace Text

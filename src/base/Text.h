@@ -3,7 +3,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Text {
 
@@ -18,11 +17,5 @@ std::string LowerAscii(std::string_view text);
 // The text with every occurrence of a piece replaced, from left to right, in one pass. The
 // replacement is not searched again. The piece must not be empty.
 std::string Replace(std::string_view text, std::string_view piece, std::string_view replacement);
-
-// The pieces between the separators: one more than there are separators, so an empty text gives one
-// empty piece. The separator must not be empty.
-std::vector<std::string> Split(std::string_view text, std::string_view separator);
-
-bool Contains(std::string_view text, std::string_view piece);
 
 }  // namespace Text

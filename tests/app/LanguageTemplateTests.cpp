@@ -5,8 +5,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "base/Text.h"
 #include "tests/Story.h"
+#include "tests/Texts.h"
 #include "text/StringTable.h"
 
 namespace {
@@ -42,10 +42,11 @@ TEST_F(LanguageTemplateStory, HasNoTextThatALookupWouldChange) {
     ASSERT_NE(text.key, nullptr);
     const std::string key = text.key;
     EXPECT_FALSE(key.empty());
-    EXPECT_FALSE(Text::Contains(key, "=") || Text::Contains(key, ";") || Text::Contains(key, " "))
+    EXPECT_FALSE(Texts::Contains(key, "=") || Texts::Contains(key, ";") ||
+                 Texts::Contains(key, " "))
         << key;
     const std::string english = text.english;
-    EXPECT_FALSE(Text::Contains(english, ";") || Text::Contains(english, "\r")) << key;
+    EXPECT_FALSE(Texts::Contains(english, ";") || Texts::Contains(english, "\r")) << key;
   }
 }
 

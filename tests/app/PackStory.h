@@ -7,9 +7,9 @@
 #include "app/LanguageTemplate.h"
 #include "app/Program.h"
 #include "app/Start.h"
-#include "base/Text.h"
 #include "platform/Forms.h"
 #include "tests/Story.h"
+#include "tests/Texts.h"
 
 class PackStory : public Story {
  protected:
@@ -35,9 +35,9 @@ class PackStory : public Story {
  private:
   // What the program has written into the language file is what translators get.
   void ExpectAppendedTextsToBeListed() const {
-    const auto listed = Text::Split(LanguageTemplate(), "\r\n");
+    const auto listed = Texts::Split(LanguageTemplate(), "\r\n");
     const std::string file = Program::PathBesideProgram(".lng");
-    for (const std::string& line : Text::Split(machine.files.Appended(file), "\r\n")) {
+    for (const std::string& line : Texts::Split(machine.files.Appended(file), "\r\n")) {
       EXPECT_TRUE(std::count(listed.begin(), listed.end(), line))
           << "not for translators: " << line;
     }

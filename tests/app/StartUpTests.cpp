@@ -5,9 +5,9 @@
 #include "app/FileDialogs.h"
 #include "app/LanguageTemplate.h"
 #include "app/Program.h"
-#include "base/Text.h"
 #include "platform/Sound.h"
 #include "tests/FailureSweep.h"
+#include "tests/Texts.h"
 #include "tests/app/PackStory.h"
 
 namespace {
@@ -201,7 +201,7 @@ TEST(StartUp, DoesAllThatItIsThereFor) {
   const auto all = AllThingsDone();
   EXPECT_THAT(all, testing::IsSupersetOf(
                        {"updater deleted", "Skidrun2 Utility Pack V1.0", "ORVSK2Pack", "sound"}));
-  const auto isTranslated = [](const std::string& line) { return Text::Contains(line, " [X]"); };
+  const auto isTranslated = [](const std::string& line) { return Texts::Contains(line, " [X]"); };
   // 27 of the menu's 29 captions, and title and filter of five dialogs.
   EXPECT_EQ(std::count_if(all.begin(), all.end(), isTranslated), 27 + 10);
 }

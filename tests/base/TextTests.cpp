@@ -1,10 +1,8 @@
 #include "base/Text.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace {
-
-using testing::ElementsAre;
 
 TEST(Text, TrimTakesAwayBlanksAndNothingElse) {
   EXPECT_EQ(Text::Trim("  a b  "), "a b");
@@ -26,21 +24,6 @@ TEST(Text, ReplaceGoesOnceFromLeftToRight) {
   EXPECT_EQ(Text::Replace("abc", "b", ""), "ac");
   EXPECT_EQ(Text::Replace("abc", "x", "y"), "abc");
   EXPECT_EQ(Text::Replace("", "x", "y"), "");
-}
-
-TEST(Text, SplitGivesOnePieceMoreThanThereAreSeparators) {
-  EXPECT_THAT(Text::Split("a,b,c", ","), ElementsAre("a", "b", "c"));
-  EXPECT_THAT(Text::Split(",a,,", ","), ElementsAre("", "a", "", ""));
-  EXPECT_THAT(Text::Split("", ","), ElementsAre(""));
-  EXPECT_THAT(Text::Split("a", ","), ElementsAre("a"));
-  EXPECT_THAT(Text::Split("a\r\nb\rc", "\r\n"), ElementsAre("a", "b\rc"));
-}
-
-TEST(Text, ContainsMindsLetterCase) {
-  EXPECT_TRUE(Text::Contains("Release RC1", "RC"));
-  EXPECT_FALSE(Text::Contains("Release rc1", "RC"));
-  EXPECT_TRUE(Text::Contains("abc", ""));
-  EXPECT_FALSE(Text::Contains("", "a"));
 }
 
 }  // namespace
