@@ -1,14 +1,9 @@
 // The track checker beside a second one that was written for plainness alone.
-#include <map>
-
-#include "tests/RandomText.h"
-#include "tests/Story.h"
+#include "tests/VerdictProperty.h"
 #include "tests/tracks/ReferenceTrackChecker.h"
 #include "tracks/TrackChecker.h"
 
 namespace {
-
-using Reference::Verdict;
 
 std::string RandomTrack(RandomText& random) {
   const std::vector<std::string> odd{
@@ -33,22 +28,13 @@ std::string RandomTrack(RandomText& random) {
 
 TEST(TrackCheckerProperty, FindsInRandomFilesWhatAPlainCheckerFinds) {
   Simulated::Machine machine;
-  const std::string path = "C:\\Games\\Skidrun2\\tracks\\hill.trk";
-  RandomText random(4);
-  std::map<int32_t, int> timesFound;
-  for (int i = 0; i < 6000; ++i) {
-    const std::string bytes = RandomTrack(random);
-    machine.files.Put(path, bytes);
-    machine.files.LimitReads(1 + random.Below(40));
-    machine.locale.SetSeparators(i % 2 ? "," : ".", i % 2 ? "." : ",");
-    Verdict found{};
-    found.result = CheckTrackFile(path, found.code, found.message);
-    ASSERT_EQ(found, Reference::CheckTrack(path, bytes)) << testing::PrintToString(bytes);
-    ++timesFound[found.code];
-  }
-  for (int32_t code = -5; code <= 4; ++code) {
-    EXPECT_GT(timesFound[code], 20) << "files with code " << code << " hardly occurred";
-  }
+  ExpectTheVerdictsOfThePlainChecker(machine, RandomText(4),
+                                     {.path = "C:\\Games\\Skidrun2\\tracks\\hill.trk",
+                                      .makeFile = RandomTrack,
+                                      .check = CheckTrackFile,
+                                      .reference = Reference::CheckTrack,
+                                      .firstCode = -5,
+                                      .lastCode = 4});
 }
 
 }  // namespace

@@ -1,13 +1,10 @@
 // The vehicle checker beside a second one that was written for plainness alone.
-#include "tests/RandomText.h"
-#include "tests/Story.h"
+#include "tests/VerdictProperty.h"
 #include "tests/vehicles/ReferenceVehicleChecker.h"
 #include "vehicles/VehicleChecker.h"
 #include "vehicles/VehicleVariables.h"
 
 namespace {
-
-using Reference::Verdict;
 
 std::string RandomVehicle(RandomText& random) {
   const std::vector<std::string> numbers{
@@ -33,23 +30,14 @@ std::string RandomVehicle(RandomText& random) {
 
 TEST(VehicleCheckerProperty, FindsInRandomFilesWhatAPlainCheckerFinds) {
   Simulated::Machine machine;
-  const std::string path = "C:\\Games\\Skidrun2\\vehicles\\rocket\\rocket.vhc";
   machine.files.Put("C:\\Games\\Skidrun2\\vehicles\\rocket\\engine.wav", "");
-  RandomText random(3);
-  std::map<int32_t, int> timesFound;
-  for (int i = 0; i < 6000; ++i) {
-    const std::string bytes = RandomVehicle(random);
-    machine.files.Put(path, bytes);
-    machine.files.LimitReads(1 + random.Below(40));
-    machine.locale.SetSeparators(i % 2 ? "," : ".", i % 2 ? "." : ",");
-    Verdict found{};
-    found.result = CheckVehicleFile(path, found.code, found.message);
-    ASSERT_EQ(found, Reference::CheckVehicle(path, bytes)) << testing::PrintToString(bytes);
-    ++timesFound[found.code];
-  }
-  for (int32_t code = -3; code <= 4; ++code) {
-    EXPECT_GT(timesFound[code], 20) << "files with code " << code << " hardly occurred";
-  }
+  ExpectTheVerdictsOfThePlainChecker(machine, RandomText(3),
+                                     {.path = "C:\\Games\\Skidrun2\\vehicles\\rocket\\rocket.vhc",
+                                      .makeFile = RandomVehicle,
+                                      .check = CheckVehicleFile,
+                                      .reference = Reference::CheckVehicle,
+                                      .firstCode = -3,
+                                      .lastCode = 4});
 }
 
 }  // namespace
