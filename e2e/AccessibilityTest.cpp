@@ -13,12 +13,33 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-// A window of this very program: a labelled box, a labelled list with two rows, OK and Cancel.
-class Accessibility : public testing::Test {
+// A dialog of this very program.
+class OwnDialog : public testing::Test {
+ protected:
+  OwnDialog()
+      : window_(CreateWindowExA(0, "#32770", "Rules", WS_OVERLAPPEDWINDOW, 40, 40, 400, 400,
+                                nullptr, nullptr, nullptr, nullptr)) {}
+  ~OwnDialog() override { DestroyWindow(window_); }
+
+  HWND Add(const char* className, const char* text, DWORD style, int id, int top, int height = 24) {
+    return CreateWindowExA(0, className, text, WS_CHILD | WS_VISIBLE | style, 10, top, 200, height,
+                           window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
+                           nullptr);
+  }
+  static void AddStyle(HWND control, LONG_PTR style) {
+    SetWindowLongPtrA(control, GWL_STYLE, GetWindowLongPtrA(control, GWL_STYLE) | style);
+  }
+  static void RemoveStyle(HWND control, LONG_PTR style) {
+    SetWindowLongPtrA(control, GWL_STYLE, GetWindowLongPtrA(control, GWL_STYLE) & ~style);
+  }
+
+  HWND window_;
+};
+
+// A labelled box, a labelled list with two rows, OK and Cancel.
+class Accessibility : public OwnDialog {
  protected:
   void SetUp() override {
-    window_ = CreateWindowExA(0, "#32770", "Rules", WS_OVERLAPPEDWINDOW, 40, 40, 400, 400, nullptr,
-                              nullptr, nullptr, nullptr);
     nameLabel_ = Add("STATIC", "&Name:", 0, 0, 10);
     name_ = Add("EDIT", "", WS_TABSTOP | WS_BORDER, 101, 40);
     listLabel_ = Add("STATIC", "&Servers:", 0, 0, 80);
@@ -32,22 +53,9 @@ class Accessibility : public testing::Test {
     ShowWindow(window_, SW_SHOW);
     SetFocus(name_);
   }
-  void TearDown() override { DestroyWindow(window_); }
 
-  HWND Add(const char* className, const char* text, DWORD style, int id, int top, int height = 24) {
-    return CreateWindowExA(0, className, text, WS_CHILD | WS_VISIBLE | style, 10, top, 200, height,
-                           window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
-                           nullptr);
-  }
-  static void AddStyle(HWND control, LONG_PTR style) {
-    SetWindowLongPtrA(control, GWL_STYLE, GetWindowLongPtrA(control, GWL_STYLE) | style);
-  }
-  static void RemoveStyle(HWND control, LONG_PTR style) {
-    SetWindowLongPtrA(control, GWL_STYLE, GetWindowLongPtrA(control, GWL_STYLE) & ~style);
-  }
   std::vector<std::string> Broken() const { return BrokenRules(Window(window_)); }
 
-  HWND window_ = nullptr;
   HWND nameLabel_ = nullptr;
   HWND name_ = nullptr;
   HWND listLabel_ = nullptr;
@@ -199,26 +207,18 @@ TEST_F(Accessibility, V3CutCaption) {
   EXPECT_THAT(Broken(), Contains(StartsWith("V3")));
 }
 
-// A message box of this very program: a text and OK.
-class BoxAccessibility : public testing::Test {
+// A text and OK, as in a message box.
+class BoxAccessibility : public OwnDialog {
  protected:
   void SetUp() override {
-    box_ = CreateWindowExA(0, "#32770", "Notice", WS_OVERLAPPEDWINDOW, 40, 40, 400, 200, nullptr,
-                           nullptr, nullptr, nullptr);
-    text_ = Add("STATIC", "Tools & Toys", SS_NOPREFIX, 10);
-    ok_ = Add("BUTTON", "OK", WS_TABSTOP | BS_DEFPUSHBUTTON, 60);
-    ShowWindow(box_, SW_SHOW);
+    text_ = Add("STATIC", "Tools & Toys", SS_NOPREFIX, 0, 10);
+    ok_ = Add("BUTTON", "OK", WS_TABSTOP | BS_DEFPUSHBUTTON, IDOK, 60);
+    ShowWindow(window_, SW_SHOW);
     SetFocus(ok_);
   }
-  void TearDown() override { DestroyWindow(box_); }
 
-  HWND Add(const char* className, const char* text, DWORD style, int top) {
-    return CreateWindowExA(0, className, text, WS_CHILD | WS_VISIBLE | style, 10, top, 200, 24,
-                           box_, nullptr, nullptr, nullptr);
-  }
-  std::vector<std::string> Broken() const { return BrokenBoxRules(Window(box_)); }
+  std::vector<std::string> Broken() const { return BrokenBoxRules(Window(window_)); }
 
-  HWND box_ = nullptr;
   HWND text_ = nullptr;
   HWND ok_ = nullptr;
 };
@@ -228,17 +228,17 @@ TEST_F(BoxAccessibility, GoodBoxBreaksNothing) {
 }
 
 TEST_F(BoxAccessibility, N4BoxWithoutATitle) {
-  SetWindowTextA(box_, "");
+  SetWindowTextA(window_, "");
   EXPECT_THAT(Broken(), ElementsAre(StartsWith("N4")));
 }
 
 TEST_F(BoxAccessibility, N7SwallowedAmpersand) {
-  SetWindowLongPtrA(text_, GWL_STYLE, GetWindowLongPtrA(text_, GWL_STYLE) & ~SS_NOPREFIX);
+  RemoveStyle(text_, SS_NOPREFIX);
   EXPECT_THAT(Broken(), ElementsAre(StartsWith("N7")));
 }
 
 TEST_F(BoxAccessibility, F1NoButtonHasTheFocus) {
-  SetFocus(Add("EDIT", "", WS_TABSTOP, 100));
+  SetFocus(Add("EDIT", "", WS_TABSTOP, 101, 100));
   EXPECT_THAT(Broken(), ElementsAre(StartsWith("F1")));
 }
 
