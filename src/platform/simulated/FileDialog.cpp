@@ -51,7 +51,7 @@ std::string FileDialog::Show() {
     const std::string typed = script.files.front();
     script.files.pop_front();
     if (typed.empty()) return "";
-    const std::string path = Completed(*this, typed);
+    std::string path = Completed(*this, typed);
     if (MayBeChosen(*this, path)) return path;
   }
 }
