@@ -8,6 +8,7 @@
 #include "base/PerRun.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "platform/BoxView.h"
 #include "platform/FormView.h"
 #include "platform/MsgBox.h"
 #include "platform/Translation.h"
@@ -38,6 +39,23 @@ Stage& TheStage() {
 // Tells the user that an action could not be finished.
 void Report(const LangText& cause, const std::string& file) {
   MsgBox(FailureText(cause, file), Translate(RuntimeErrorTexts.Title), Icon::Critical);
+}
+
+// The same where the report itself fails: with nothing that could fail again.
+void ReportInBrief(const LangText& cause) noexcept {
+  try {
+    ShowBox({cause.english, RuntimeErrorTexts.Title.english, Icon::Critical, Buttons::Ok}, true);
+  } catch (...) {
+    // Nothing is left that could tell of it; the program goes on.
+  }
+}
+
+void ReportSafely(const LangText& cause, const std::string& file = {}) noexcept {
+  try {
+    Report(cause, file);
+  } catch (...) {
+    ReportInBrief(cause);
+  }
 }
 
 // True for a key with which a text box moves, types, deletes, or uses the clipboard.
@@ -249,18 +267,32 @@ void Form::FocusArrived(Control& control) {
   focus_ = &control;
 }
 
-void Dispatch(const std::function<void()>& handler) {
-  ++TheStage().dispatches;
+void Dispatch(const std::function<void()>& handler) noexcept {
+  Stage& stage = TheStage();
+  ++stage.dispatches;
   try {
     handler();
-  } catch (const RuntimeError& error) {
-    Report(error.cause(), error.file());
-  } catch (const std::bad_alloc&) {
-    Report(RuntimeErrorTexts.OutOfMemory, "");
-  } catch (const std::exception&) {
-    Report(RuntimeErrorTexts.Unexpected, "");
+  } catch (...) {
+    TellFailure();
   }
-  if (--TheStage().dispatches == 0) TheStage().Settle();
+  if (--stage.dispatches > 0) return;
+  try {
+    stage.Settle();
+  } catch (...) {
+    TellFailure();
+  }
+}
+
+void TellFailure() noexcept {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    ReportSafely(error.cause(), error.file());
+  } catch (const std::bad_alloc&) {
+    ReportSafely(RuntimeErrorTexts.OutOfMemory);
+  } catch (...) {
+    ReportSafely(RuntimeErrorTexts.Unexpected);
+  }
 }
 
 std::string FailureText(const LangText& cause, const std::string& file) {

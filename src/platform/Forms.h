@@ -104,10 +104,15 @@ class Form {
   std::unique_ptr<FormView> view_;
 };
 
-// Runs what an event asks for. If it fails, the user is told in a critical box, with the cause and
-// the file. Afterwards, if the window on the stage has left and none was shown in its place, the
-// main window is shown.
-void Dispatch(const std::function<void()>& handler);
+// Runs what an event asks for. If it fails, whatever the exception, the user is told in a critical
+// box, with the cause and the file. Afterwards, if the window on the stage has left and none was
+// shown in its place, the main window is shown.
+void Dispatch(const std::function<void()>& handler) noexcept;
+
+// Tells the user of the exception that is being handled: for a catch (...) where the system calls
+// the program outside of an event. Where memory does not even suffice for that, the cause is told
+// in English and without the file.
+void TellFailure() noexcept;
 
 // What the user is told about a failure: the cause in their language and the file, if there is one.
 std::string FailureText(const LangText& cause, const std::string& file);

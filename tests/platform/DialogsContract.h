@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "base/RuntimeError.h"
+#include "platform/BoxText.h"
 #include "platform/FileDialog.h"
 #include "platform/Forms.h"
 #include "platform/InputBox.h"
@@ -44,6 +45,27 @@ TEST_F(DialogsContract, ABoxShowsItsTextOverTheWindow) {
       Platform::Answer::Ok);
   EXPECT_EQ(TestMachine::VisibleWindows(), Lines{"Main"});
   EXPECT_EQ(TestMachine::Hears(), "Second, edit, Alt+S") << "where the user was before";
+}
+
+TEST_F(DialogsContract, ABoxShowsATextWithControlCharactersToItsEnd) {
+  TestMachine::WhenModalWindowOpens([] {
+    EXPECT_EQ(TestMachine::MessageBoxOnScreen().text, "M?o?t?o?r? is\r\nunknown.");
+    TestMachine::Press("Enter");
+  });
+  const char text[] = "M\0o\0t\0o\0r\0 is\r\nunknown.";
+  Platform::MsgBox({text, sizeof text - 1}, "File Error", Platform::Icon::Critical);
+}
+
+TEST_F(DialogsContract, ABoxShowsTheBeginningAndTheEndOfAVeryLongText) {
+  TestMachine::WhenModalWindowOpens([] {
+    const std::string text = TestMachine::MessageBoxOnScreen().text;
+    EXPECT_LE(text.size(), Platform::LongestBoxText);
+    EXPECT_THAT(text, testing::StartsWith("Line 1: xxx"));
+    EXPECT_THAT(text, testing::EndsWith("xxx is unknown."));
+    TestMachine::Press("Enter");
+  });
+  Platform::MsgBox("Line 1: " + std::string(1 << 20, 'x') + " is unknown.", "File Error",
+                   Platform::Icon::Critical);
 }
 
 TEST_F(DialogsContract, EscapeIsOkInABoxWithOkAlone) {

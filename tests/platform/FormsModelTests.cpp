@@ -58,6 +58,27 @@ TEST_F(FormsModel, AnyOtherFailureIsToldAsUnexpected) {
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "An unexpected error occurred."));
 }
 
+TEST_F(FormsModel, WhatIsNoExceptionOfTheLanguageIsToldToo) {
+  Dispatch([] { throw 7; });
+  EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "An unexpected error occurred."));
+}
+
+TEST_F(FormsModel, AFailureThatCannotBeToldAsUsualIsToldInEnglish) {
+  SetTranslator([](const LangText&) -> std::string { throw std::bad_alloc(); });
+  Dispatch([] { throw RuntimeError(RuntimeError::DiskFull, "C:\\hill.trk"); });
+  EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "The disk is full.", "Error"));
+}
+
+TEST_F(FormsModel, AMainWindowThatCannotComeBackIsTold) {
+  tool.Show();
+  Dispatch([this] {
+    tool.Leave();
+    machine.screen.refusesWindows = true;
+  });
+  EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "The device reported an error."));
+  EXPECT_THAT(Screen(), ElementsAre("Tool")) << "the user can still work";
+}
+
 TEST_F(FormsModel, AFailureIsToldInTheUsersLanguage) {
   SetTranslator([](const LangText& text) { return std::string("<") + text.key + ">"; });
   Dispatch([] { throw RuntimeError(RuntimeError::DiskFull, "a.trk"); });

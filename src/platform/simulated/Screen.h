@@ -13,6 +13,7 @@ struct Screen {
   std::vector<const Window*> windows;  // loaded, on the screen or not
   std::vector<OpenBox*> boxes;         // the one in use last
   std::vector<std::string> dialogs;    // titles of open file dialogs, the one in use last
+  int refusedBoxes = 0;                // so many of the next boxes cannot be shown
   bool refusesWindows = false;         // showing one fails, as when memory has run out
 
   int answers = 0;  // how often a long step has answered other programs

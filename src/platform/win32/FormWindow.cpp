@@ -247,7 +247,7 @@ INT_PTR CALLBACK FormView::Native::DialogProc(HWND window, UINT message, WPARAM 
   // comes before the window is known here, is answered with FALSE too.
   Native* const native = Find(window);
   if (!native) return FALSE;
-  const auto result = native->Handle(message, wParam, lParam);
+  const auto result = native->HandleSafely(message, wParam, lParam);
   if (!result) return FALSE;
   SetWindowLongPtrA(window, DWLP_MSGRESULT, *result);
   return TRUE;
@@ -256,9 +256,19 @@ INT_PTR CALLBACK FormView::Native::DialogProc(HWND window, UINT message, WPARAM 
 LRESULT CALLBACK FormView::Native::WindowProc(HWND window, UINT message, WPARAM wParam,
                                               LPARAM lParam) noexcept {
   if (Native* const native = Find(window)) {
-    if (const auto result = native->Handle(message, wParam, lParam)) return *result;
+    if (const auto result = native->HandleSafely(message, wParam, lParam)) return *result;
   }
   return DefWindowProcA(window, message, wParam, lParam);
+}
+
+std::optional<LRESULT> FormView::Native::HandleSafely(UINT message, WPARAM wParam,
+                                                      LPARAM lParam) noexcept {
+  try {
+    return Handle(message, wParam, lParam);
+  } catch (...) {
+    TellFailure();
+    return 0;
+  }
 }
 
 std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

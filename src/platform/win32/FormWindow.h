@@ -62,6 +62,8 @@ struct FormView::Native {
   void MakeControls();
   // What both kinds of windows answer. The result if the message is settled.
   std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  // The same; a failure is told to the user, and the message settled.
+  std::optional<LRESULT> HandleSafely(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void Command(WPARAM wParam, LPARAM lParam);
   void RestoreFocus();
   void ChangeFont(UINT dpi);

@@ -1,4 +1,4 @@
-#include "platform/MsgBox.h"
+#include "platform/BoxView.h"
 
 #include "platform/Forms.h"
 #include "platform/simulated/Machine.h"
@@ -22,17 +22,25 @@ std::optional<Answer> ActedAnswer(const Simulated::Box& shown,
 
 }  // namespace
 
-Answer MsgBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) {
-  Simulated::Script& script = Simulated::TheMachine().user.script();
-  const Form* owner = ActiveForm();
-  script.boxes.push_back({text, title, icon, buttons, owner ? owner->title() : ""});
+std::optional<Answer> ShowBox(const BoxContents& contents, bool isOwned) {
+  Simulated::Machine& machine = Simulated::TheMachine();
+  if (machine.screen.refusedBoxes > 0) {
+    --machine.screen.refusedBoxes;
+    return std::nullopt;
+  }
+  Simulated::Script& script = machine.user.script();
+  const std::string text = contents.text;
+  const std::string title = contents.title;
+  const Form* owner = isOwned ? ActiveForm() : nullptr;
+  script.boxes.push_back(
+      {text, title, contents.icon, contents.buttons, owner ? owner->title() : ""});
   if (title.empty()) Simulated::Complain("a message box without a title: " + text);
   if (owner && !owner->IsVisible()) Simulated::Complain("a message box over nothing: " + text);
   if (const auto action = script.TakeBoxStep(title)) {
     const auto answer = ActedAnswer(script.boxes.back(), *action);
-    if (answer) return *answer;
+    if (answer) return answer;
   }
-  if (buttons == Buttons::Ok) return Answer::Ok;
+  if (contents.buttons == Buttons::Ok) return Answer::Ok;
   if (script.answers.empty()) {
     Simulated::Complain("an unexpected question: " + text);
     return Answer::No;

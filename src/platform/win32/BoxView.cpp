@@ -1,4 +1,4 @@
-#include "platform/MsgBox.h"
+#include "platform/BoxView.h"
 
 #include "platform/win32/FormWindow.h"
 #include "platform/win32/System.h"
@@ -27,12 +27,15 @@ UINT StyleOf(Buttons buttons) {
 
 }  // namespace
 
-Answer MsgBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) {
-  const int answer = MessageBoxA(ActiveWindow(), text.c_str(), title.c_str(),
-                                 StyleOf(icon) | StyleOf(buttons) | MB_TASKMODAL);
-  if (buttons == Buttons::Ok) return Answer::Ok;
-  // A box that could not be shown has not been agreed to.
-  return answer == IDYES ? Answer::Yes : Answer::No;
+std::optional<Answer> ShowBox(const BoxContents& box, bool isOwned) {
+  const int answer = MessageBoxA(isOwned ? ActiveWindow() : nullptr, box.text, box.title,
+                                 StyleOf(box.icon) | StyleOf(box.buttons) | MB_TASKMODAL);
+  switch (answer) {
+    case 0: return std::nullopt;
+    case IDYES: return Answer::Yes;
+    case IDNO: return Answer::No;
+    default: return box.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+  }
 }
 
 }  // namespace Platform
