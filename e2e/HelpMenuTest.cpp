@@ -37,6 +37,12 @@ TEST_F(HelpMenu, HelpFileIsOpenedFromAFolderWithBlanksAndAmpersand) {
   EXPECT_TRUE(pack.program().IsRunning());
 }
 
+TEST_F(HelpMenu, HelpFileComesWithTheProgram) {
+  PutProgramFolder();
+  // How every compiled help file begins.
+  EXPECT_EQ(ReadFile(programFolder() + "\\sk2pack.chm").substr(0, 4), "ITSF");
+}
+
 TEST_F(HelpMenu, MissingHelpFileIsToldByTheSystem) {
   PutProgramFolder();
   DeleteFileA((programFolder() + "\\sk2pack.chm").c_str());

@@ -1,6 +1,5 @@
 #include "e2e/driver/Window.h"
 
-#include <cctype>
 #include <stdexcept>
 
 #include "e2e/driver/Wait.h"
@@ -191,7 +190,8 @@ char AccessKey(const std::string& caption) {
     if (caption[i] != '&') continue;
     i++;
     if (caption[i] != '&') {
-      return static_cast<char>(std::toupper(static_cast<unsigned char>(caption[i])));
+      char letter[] = {caption[i], '\0'};
+      return *CharUpperA(letter);
     }
   }
   return 0;

@@ -1,10 +1,10 @@
 #include "platform/Controls.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "platform/FormView.h"
 #include "platform/Forms.h"
+#include "platform/LetterCase.h"
 #include "platform/Translation.h"
 
 namespace Platform {
@@ -118,8 +118,7 @@ void Button::Click() {
 char AccessKey(const std::string& caption) {
   for (size_t i = 0; i + 1 < caption.size(); ++i) {
     if (caption[i] != '&') continue;
-    const unsigned char next = static_cast<unsigned char>(caption[++i]);
-    if (next != '&') return static_cast<char>(std::tolower(next));
+    if (caption[++i] != '&') return LowerCase(caption.substr(i, 1)).front();
   }
   return 0;
 }

@@ -366,8 +366,11 @@ INSTANTIATE_TEST_SUITE_P(All, OtherKeys,
 
 // --- Access keys ---
 
-TEST(AccessKeys, TheLetterStandsBehindTheFirstSingleAmpersand) {
+class AccessKeys : public Story {};
+
+TEST_F(AccessKeys, TheLetterStandsBehindTheFirstSingleAmpersand) {
   EXPECT_EQ(AccessKey("&Open"), 'o');
+  EXPECT_EQ(AccessKey("&\xD6l"), '\xF6');
   EXPECT_EQ(AccessKey("Save &As"), 'a');
   EXPECT_EQ(AccessKey("Tom && &Jane"), 'j');
   EXPECT_EQ(AccessKey("Tom && Jane"), 0);
@@ -375,7 +378,7 @@ TEST(AccessKeys, TheLetterStandsBehindTheFirstSingleAmpersand) {
   EXPECT_EQ(AccessKey(""), 0);
 }
 
-TEST(AccessKeys, ACaptionIsShownWithoutItsMark) {
+TEST_F(AccessKeys, ACaptionIsShownWithoutItsMark) {
   EXPECT_EQ(WithoutAccessKey("&Open"), "Open");
   EXPECT_EQ(WithoutAccessKey("Tom && &Jane"), "Tom & Jane");
   EXPECT_EQ(WithoutAccessKey("Open&"), "Open");
@@ -409,6 +412,14 @@ TEST_F(SharedKeys, AreFoundInOneMenuOnly) {
   MenuItem Copy(File, {.text = FixedText("&Copy")});
   form.TranslateMenu();
   EXPECT_THAT(SharedAccessKeys(form), ElementsAre("&Close / &Copy"));
+}
+
+TEST_F(SharedKeys, AreTheSameInCapitalAndSmallLettersOfAnyLanguage) {
+  Button Open(form, {.text = FixedText("")});
+  Button More(form, {.text = FixedText("")});
+  Open.SetCaption("&\xD6l");
+  More.SetCaption("H&\xF6he");
+  EXPECT_THAT(SharedAccessKeys(form), ElementsAre("&\xD6l / H&\xF6he"));
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "platform/win32/Display.h"
 
-#include "platform/win32/CodePage.h"
+#include "base/RuntimeError.h"
 
 namespace Platform::Display {
 
@@ -48,34 +48,34 @@ LOGFONTW MessageFont(UINT dpi) {
 
 Font::Font(UINT dpi) {
   const LOGFONTW description = MessageFont(dpi);
-  handle_ = CreateFontIndirectW(&description);
-  context_ = CreateCompatibleDC(nullptr);
-  previous_ = SelectObject(context_, handle_);
+  handle_.reset(CreateFontIndirectW(&description));
+  context_.reset(CreateCompatibleDC(nullptr));
+  if (!handle_ || !context_) throw RuntimeError(RuntimeError::DeviceError);
+  previous_ = SelectObject(context_.get(), handle_.get());
 
   // The dialog manager's own way to the mean width.
   constexpr wchar_t Letters[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
   SIZE size{};
-  GetTextExtentPoint32W(context_, Letters, 52, &size);
+  GetTextExtentPoint32W(context_.get(), Letters, 52, &size);
   TEXTMETRICW metrics{};
-  GetTextMetricsW(context_, &metrics);
+  GetTextMetricsW(context_.get(), &metrics);
   units_ = {static_cast<int>((size.cx / 26 + 1) / 2), static_cast<int>(metrics.tmHeight)};
 }
 
 Font::~Font() {
-  SelectObject(context_, previous_);
-  DeleteDC(context_);
-  DeleteObject(handle_);
+  // A font in use by a context cannot be deleted.
+  SelectObject(context_.get(), previous_);
 }
 
 Layout::Size Font::Measure(const std::string& text, int width) const {
   RECT rect{0, 0, width, 0};
-  DrawTextA(context_, text.c_str(), -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+  DrawTextA(context_.get(), text.c_str(), -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
   return {static_cast<int>(rect.right), static_cast<int>(rect.bottom)};
 }
 
 int Font::Width(const std::string& text) const {
   SIZE size{};
-  GetTextExtentPoint32A(context_, text.c_str(), static_cast<int>(text.size()), &size);
+  GetTextExtentPoint32A(context_.get(), text.c_str(), static_cast<int>(text.size()), &size);
   return static_cast<int>(size.cx);
 }
 

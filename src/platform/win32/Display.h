@@ -1,6 +1,7 @@
 // The screen, its density, and the user's font for windows.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "platform/Layout.h"
@@ -17,12 +18,13 @@ LOGFONTW MessageFont(UINT dpi);
 // A font in use: its measures, and the handle that controls draw with.
 class Font {
  public:
+  // Fails with DeviceError if the system has no room for another font.
   explicit Font(UINT dpi);
   ~Font();
   Font(const Font&) = delete;
   Font& operator=(const Font&) = delete;
 
-  HFONT handle() const { return handle_; }
+  HFONT handle() const { return handle_.get(); }
   Layout::Units units() const { return units_; }
   // The size of a text in the system code page, broken into lines of at most that width. "&" counts
   // as a character like others.
@@ -31,8 +33,17 @@ class Font {
   int Width(const std::string& text) const;
 
  private:
-  HFONT handle_ = nullptr;
-  HDC context_ = nullptr;
+  struct FontDeleter {
+    using pointer = HFONT;
+    void operator()(HFONT font) const { DeleteObject(font); }
+  };
+  struct ContextDeleter {
+    using pointer = HDC;
+    void operator()(HDC context) const { DeleteDC(context); }
+  };
+
+  std::unique_ptr<HFONT, FontDeleter> handle_;
+  std::unique_ptr<HDC, ContextDeleter> context_;
   HGDIOBJ previous_ = nullptr;
   Layout::Units units_{};
 };

@@ -56,12 +56,12 @@ Layout::Font FormView::Native::LayoutFont() const {
           [this](const std::string& text, int width) { return font_->Measure(text, width); }};
 }
 
-Layout::Size FormView::Native::Measure() {
+Layout::Size FormView::Native::Measure(const RECT& area) {
   const Layout::Font font = LayoutFont();
   if (controls_.empty()) return {font.units.Across(BareWidth), font.units.Down(BareHeight)};
   const std::vector<Layout::Item> items = LayoutItems();
   const int titleWidth = font_->Width(form_.title()) + font.units.Across(TitleBarRest);
-  const Layout::Size room = RoomFor(window_, Display::WorkArea(window_));
+  const Layout::Size room = RoomFor(window_, area);
   const Layout::Size preferred = Layout::PreferredSize(items, font, titleWidth, room);
   leastSize_ = Layout::LeastSize(items, font, preferred.width);
   return preferred;
@@ -71,7 +71,7 @@ void FormView::Native::OpenAtItsPlace(HWND over) {
   const RECT area = Display::WorkArea(over ? over : window_);
   RECT middle = area;
   if (over && !IsIconic(over)) GetWindowRect(over, &middle);
-  const SIZE size = Display::WithFrame(window_, Measure());
+  const SIZE size = Display::WithFrame(window_, Measure(area));
   const POINT place = Centred(size, middle, area);
   isLaidOut_ = true;
   SetWindowPos(window_, nullptr, place.x, place.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -92,7 +92,7 @@ void FormView::Native::PlaceControls() {
 
 void FormView::Native::LayOutAgain() {
   if (!isLaidOut_ || controls_.empty()) return;
-  Measure();
+  Measure(Display::WorkArea(window_));
   // It has a size of its own to grow from only when it is neither an icon nor fills the screen.
   isGrowthPutOff_ = IsIconic(window_) || IsZoomed(window_);
   if (!isGrowthPutOff_) Grow();
@@ -115,7 +115,7 @@ void FormView::Native::Grow() {
 void FormView::Native::MoveToScreen(UINT dpi, const RECT& suggested) {
   ChangeFont(dpi);
   // What the old font needed must not keep the window from the size that is suggested.
-  if (isLaidOut_) Measure();
+  if (isLaidOut_) Measure(Display::WorkArea(window_));
   if (!IsIconic(window_)) {
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);

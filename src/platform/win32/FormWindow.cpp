@@ -202,8 +202,9 @@ void FormView::Native::ShowTitle() {
 }
 
 void FormView::Native::ShowMenu() {
-  menuBar_ = std::make_unique<MenuBar>(form_.menus());
-  menuBar_->PutOn(window_);
+  auto menuBar = std::make_unique<MenuBar>(form_.menus());
+  menuBar->PutOn(window_);
+  menuBar_ = std::move(menuBar);
 }
 
 void FormView::Native::MoveFocus() {

@@ -71,7 +71,8 @@ struct FormView::Native {
   std::vector<Layout::Item> LayoutItems() const;
   Layout::Font LayoutFont() const;
   // Takes the least size from the controls and the title. Returns the size to open with.
-  Layout::Size Measure();
+  //   area  what can be used of the screen that the window is to stand on.
+  Layout::Size Measure(const RECT& area);
   void OpenAtItsPlace(HWND over);
   // Makes the window at least as large as its least size.
   void Grow();

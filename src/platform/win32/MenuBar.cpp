@@ -1,6 +1,6 @@
 #include "platform/win32/MenuBar.h"
 
-#include <utility>
+#include "base/RuntimeError.h"
 
 namespace Platform {
 
@@ -13,32 +13,37 @@ MenuBar::MenuBar(const std::vector<MenuItem*>& menus) {
   if (!menus.empty()) bar_ = MakeMenu(menus, true);
 }
 
-MenuBar::~MenuBar() {
-  if (bar_) DestroyMenu(bar_);
+MenuBar::OwnedMenu MenuBar::MakeMenu(const std::vector<MenuItem*>& items, bool isBar) {
+  OwnedMenu menu(isBar ? CreateMenu() : CreatePopupMenu());
+  if (!menu) throw RuntimeError(RuntimeError::DeviceError);
+  for (MenuItem* item : items) Append(menu.get(), *item);
+  return menu;
 }
 
-HMENU MenuBar::MakeMenu(const std::vector<MenuItem*>& items, bool isBar) {
-  const HMENU menu = isBar ? CreateMenu() : CreatePopupMenu();
-  for (MenuItem* item : items) {
-    UINT flags = MF_STRING;
-    if (!item->IsEnabled()) flags |= MF_GRAYED;
-    if (item->IsChecked()) flags |= MF_CHECKED;
-    UINT_PTR id = FirstCommand + commands_.size();
-    if (item->items().empty()) {
-      commands_.push_back(item);
-    } else {
-      flags |= MF_POPUP;
-      id = reinterpret_cast<UINT_PTR>(MakeMenu(item->items(), false));
-    }
-    AppendMenuA(menu, flags, id, item->caption().c_str());
+void MenuBar::Append(HMENU menu, MenuItem& item) {
+  UINT flags = MF_STRING;
+  if (!item.IsEnabled()) flags |= MF_GRAYED;
+  if (item.IsChecked()) flags |= MF_CHECKED;
+  UINT_PTR id = FirstCommand + commands_.size();
+  OwnedMenu items;
+  if (item.items().empty()) {
+    commands_.push_back(&item);
+  } else {
+    items = MakeMenu(item.items(), false);
+    flags |= MF_POPUP;
+    id = reinterpret_cast<UINT_PTR>(items.get());
   }
-  return menu;
+  if (!AppendMenuA(menu, flags, id, item.caption().c_str())) {
+    throw RuntimeError(RuntimeError::DeviceError);
+  }
+  items.release();  // goes with the menu that it is in now
 }
 
 void MenuBar::PutOn(HWND window) {
   const HMENU previous = GetMenu(window);
   if (!previous && !bar_) return;
-  SetMenu(window, std::exchange(bar_, nullptr));
+  if (!SetMenu(window, bar_.get())) throw RuntimeError(RuntimeError::DeviceError);
+  bar_.release();  // goes with the window
   if (previous) DestroyMenu(previous);
   DrawMenuBar(window);
 }
