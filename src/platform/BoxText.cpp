@@ -42,7 +42,7 @@ std::string WithoutControls(std::string_view text) {
 }  // namespace
 
 std::string BoxText(const std::string& text, size_t longest) {
-  const std::string visible = WithoutControls(text);
+  std::string visible = WithoutControls(text);
   if (visible.size() <= longest) return visible;
   const size_t half = (longest - Omission.size()) / 2;
   size_t headEnd = 0;

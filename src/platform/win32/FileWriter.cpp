@@ -42,8 +42,9 @@ class TemporaryFile {
   // Flushes the file, which from now on outlives the program until it may go again.
   void Stay() {
     file_.Flush();
-    if (doesVanish_ && !SetVanishing(false))
+    if (doesVanish_ && !SetVanishing(false)) {
       FailWith(GetLastError(), file_.path(), Access::Writing);
+    }
     doesVanish_ = false;
     mustStay_ = true;
   }
@@ -54,10 +55,7 @@ class TemporaryFile {
 
   // Flushes and closes the file, which stays under its name from now on. If that fails, it is gone.
   void Keep() {
-    file_.Flush();
-    if (doesVanish_ && !SetVanishing(false)) {
-      FailWith(GetLastError(), file_.path(), Access::Writing);
-    }
+    Stay();
     try {
       file_.Close();
     } catch (const RuntimeError&) {

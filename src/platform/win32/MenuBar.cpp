@@ -36,14 +36,14 @@ void MenuBar::Append(HMENU menu, MenuItem& item) {
   if (!AppendMenuA(menu, flags, id, item.caption().c_str())) {
     throw RuntimeError(RuntimeError::DeviceError);
   }
-  items.release();  // goes with the menu that it is in now
+  static_cast<void>(items.release());  // goes with the menu that it is in now
 }
 
 void MenuBar::PutOn(HWND window) {
   const HMENU previous = GetMenu(window);
   if (!previous && !bar_) return;
   if (!SetMenu(window, bar_.get())) throw RuntimeError(RuntimeError::DeviceError);
-  bar_.release();  // goes with the window
+  static_cast<void>(bar_.release());  // goes with the window
   if (previous) DestroyMenu(previous);
   DrawMenuBar(window);
 }
