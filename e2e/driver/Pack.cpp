@@ -139,19 +139,22 @@ void Pack::Meet(const Window& window) {
 }
 
 std::vector<std::string> Pack::LastinglyBroken(const Window& window) const {
-  constexpr ULONGLONG LongestMomentMs = 2000;
-  const ULONGLONG deadline = GetTickCount64() + LongestMomentMs;
-  while (true) {
-    std::vector<std::string> news;
+  // What has lasted once in this run is not waited for again.
+  static std::set<std::string> lasting;
+  std::vector<std::string> news;
+  ComesTrue([&] {
+    news.clear();
     for (const auto& rule : IsBox(window) ? BrokenBoxRules(window) : BrokenRules(window)) {
       const std::string line = "\"" + window.text() + "\" breaks " + rule;
       if (!told_.count(line)) news.push_back(line);
     }
     // The key that was pressed last may just be closing the window.
-    if (news.empty() || !window.Exists() || !IsInFront(window)) return {};
-    if (GetTickCount64() > deadline) return news;
-    Sleep(1);  // between two looks
-  }
+    if (!window.Exists() || !IsInFront(window)) news.clear();
+    return std::all_of(news.begin(), news.end(),
+                       [](const std::string& line) { return lasting.count(line) > 0; });
+  });
+  lasting.insert(news.begin(), news.end());
+  return news;
 }
 
 void Pack::WaitUntilGone(const Window& window) {

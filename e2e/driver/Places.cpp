@@ -1,5 +1,6 @@
 #include "e2e/driver/Places.h"
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <algorithm>
@@ -27,22 +28,18 @@ ScratchFolder::ScratchFolder() {
 }
 
 ScratchFolder::~ScratchFolder() {
-  // Write-protected files are not removed.
-  std::error_code ignored;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(path_, ignored)) {
-    if (entry.is_regular_file(ignored)) {
-      SetFileAttributesA(entry.path().string().c_str(), FILE_ATTRIBUTE_NORMAL);
-    }
-  }
   // A program that has just been ended may hold its own file for a moment.
-  try {
-    WaitUntil(path_ + " removed", [this] {
-      std::error_code failure;
-      std::filesystem::remove_all(path_, failure);
-      return !failure;
-    });
-  } catch (const Overdue&) {
-  }
+  const bool isRemoved = ComesTrue([this] {
+    // Write-protected files are not removed.
+    std::error_code failure;
+    std::filesystem::recursive_directory_iterator entry(path_, failure);
+    for (; !failure && entry != end(entry); entry.increment(failure)) {
+      SetFileAttributesW(entry->path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+    std::filesystem::remove_all(path_, failure);
+    return !failure;
+  });
+  EXPECT_TRUE(isRemoved) << path_ << " cannot be removed";
 }
 
 void CopyFolder(const std::string& from, const std::string& to) {

@@ -4,12 +4,17 @@
 
 namespace E2e {
 
-void WaitUntil(const std::string& what, const std::function<bool()>& isSo) {
+bool ComesTrue(const std::function<bool()>& isSo) {
   const ULONGLONG deadline = GetTickCount64() + 30'000;
   while (!isSo()) {
-    if (GetTickCount64() > deadline) throw Overdue("never seen: " + what);
+    if (GetTickCount64() > deadline) return false;
     Sleep(10);  // between two looks
   }
+  return true;
+}
+
+void WaitUntil(const std::string& what, const std::function<bool()>& isSo) {
+  if (!ComesTrue(isSo)) throw Overdue("never seen: " + what);
 }
 
 }  // namespace E2e

@@ -14,8 +14,11 @@ class Overdue : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Looks again and again until it is so. Fails with Overdue after half a minute: much longer than
-// anything takes, also on a busy machine.
+// Looks again and again until it is so. False if it is still not so after half a minute: much
+// longer than anything takes, also on a busy machine.
+bool ComesTrue(const std::function<bool()>& isSo);
+
+// The same for what must come: fails with Overdue if it does not.
 void WaitUntil(const std::string& what, const std::function<bool()>& isSo);
 
 // The same for something to be found.
