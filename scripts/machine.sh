@@ -158,13 +158,17 @@ write_registry() {
   wine regedit /S "$machine_folder/settings.reg" >/dev/null 2>&1 </dev/null
 }
 
-# Windows get a desktop of their own, for which no window manager is needed.
+# Windows get a desktop of their own, for which no window manager is needed. It is as dense as an
+# ordinary screen, whatever a run that was interrupted has left there.
 use_virtual_desktop() {
   write_registry '[HKEY_CURRENT_USER\Software\Wine\Explorer]
 "Desktop"="Default"
 
 [HKEY_CURRENT_USER\Software\Wine\Explorer\Desktops]
-"Default"="1280x1024"' || return 1
+"Default"="1280x1024"
+
+[HKEY_CURRENT_USER\Control Panel\Desktop]
+"LogPixels"=dword:00000060' || return 1
   # The running desktop is the old one.
   wineserver -k && wineserver -w || true
 }
