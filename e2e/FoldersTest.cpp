@@ -36,7 +36,18 @@ TEST_F(Folders, AboutBoxWithoutTheGameShowsWhatThereIs) {
   const NoGame none;
   Pack& pack = StartPack();
   pack.ChooseMenu({"Help", "About"});
-  EXPECT_THAT(pack.AnswerBox().text, testing::HasSubstr("SK2Pack information:\r\n"));
+  EXPECT_EQ(pack.AnswerBox(),
+            Information("About Skidrun2/Skidrun2 Utility Pack",
+                        "SK2Pack information:\r\n"
+                        "Skidrun2 Utility Pack V1.0, executable file " +
+                            programFolder() +
+                            "\\sk2pack.exe\r\n"
+                            "Skidrun2 information:\r\n"
+                            "Installation found at location: \r\n"
+                            "Version: \r\n"
+                            "Publisher: \r\n"
+                            "Please contact support@orvane.example for queries about the pack and "
+                            " for queries about the game."));
   pack.WaitForMain();
 }
 
