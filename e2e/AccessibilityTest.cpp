@@ -68,50 +68,50 @@ TEST_F(Accessibility, GoodWindowBreaksNothing) {
   EXPECT_THAT(Broken(), IsEmpty());
 }
 
-TEST_F(Accessibility, N1BoxWithoutALabel) {
+TEST_F(Accessibility, UnlabelledControl) {
   DestroyWindow(nameLabel_);
-  EXPECT_THAT(Broken(), Contains(StartsWith("N1")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("UnlabelledControl")));
 }
 
-TEST_F(Accessibility, N2TwoOfOneName) {
+TEST_F(Accessibility, SharedName) {
   SetWindowTextA(listLabel_, "N&ame:");
-  EXPECT_THAT(Broken(), Contains(StartsWith("N2")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("SharedName")));
 }
 
-TEST_F(Accessibility, N3ButtonWithoutACaption) {
+TEST_F(Accessibility, ButtonWithoutCaption) {
   SetWindowTextA(ok_, "");
-  EXPECT_THAT(Broken(), Contains(StartsWith("N3")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("ButtonWithoutCaption")));
 }
 
-TEST_F(Accessibility, N4WindowWithoutATitle) {
+TEST_F(Accessibility, NoTitle) {
   SetWindowTextA(window_, "");
-  EXPECT_THAT(Broken(), Contains(StartsWith("N4")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("NoTitle")));
 }
 
-TEST_F(Accessibility, N5OrderThatIsNotSeen) {
+TEST_F(Accessibility, ReadingOrderThatIsNotSeen) {
   MoveWindow(cancel_, 10, 170, 200, 24, TRUE);
-  EXPECT_THAT(Broken(), Contains(StartsWith("N5")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("ReadingOrder")));
 }
 
-TEST_F(Accessibility, N6DisabledText) {
+TEST_F(Accessibility, UnheardTextThatIsDisabled) {
   EnableWindow(Add("STATIC", "What this is for", 0, 0, 280), FALSE);
-  EXPECT_THAT(Broken(), Contains(StartsWith("N6")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("UnheardText")));
 }
 
-TEST_F(Accessibility, N6TextAfterAGroupBox) {
+TEST_F(Accessibility, UnheardTextAfterAGroupBox) {
   Add("BUTTON", "Server", BS_GROUPBOX, 0, 280);
   EXPECT_THAT(Broken(), IsEmpty());
   Add("STATIC", "What this is for", 0, 0, 310);
-  EXPECT_THAT(Broken(), ElementsAre(StartsWith("N6")));
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("UnheardText")));
 }
 
-TEST_F(Accessibility, N8ReadOnlyTextWithoutATabStop) {
+TEST_F(Accessibility, UnreachableText) {
   Add("STATIC", "Time:", 0, 0, 280);
   Add("EDIT", "1 minute", WS_BORDER | ES_READONLY, 103, 310);
-  EXPECT_THAT(Broken(), Contains(StartsWith("N8")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("UnreachableText")));
 }
 
-TEST_F(Accessibility, K1WindowThatIsNoDialog) {
+TEST_F(Accessibility, NoDialog) {
   const HWND window = CreateWindowExA(0, "STATIC", "Rules", WS_OVERLAPPEDWINDOW, 40, 40, 400, 400,
                                       nullptr, nullptr, nullptr, nullptr);
   for (const HWND control : {nameLabel_, name_, listLabel_, list_, ok_, cancel_}) {
@@ -121,40 +121,40 @@ TEST_F(Accessibility, K1WindowThatIsNoDialog) {
   }
   ShowWindow(window, SW_SHOW);
   SetFocus(name_);
-  EXPECT_THAT(BrokenRules(Window(window)), ElementsAre(StartsWith("K1")));
+  EXPECT_THAT(BrokenRules(Window(window)), ElementsAre(StartsWith("NoDialog")));
   DestroyWindow(window);
 }
 
-TEST_F(Accessibility, K2ControlWithoutATabStop) {
+TEST_F(Accessibility, TabStopMissing) {
   RemoveStyle(list_, WS_TABSTOP);
-  EXPECT_THAT(Broken(), Contains(StartsWith("K2")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("TabStop")));
 }
 
-TEST_F(Accessibility, K2TabStopAtALabel) {
+TEST_F(Accessibility, TabStopAtALabel) {
   AddStyle(nameLabel_, WS_TABSTOP);
-  EXPECT_THAT(Broken(), Contains(StartsWith("K2")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("TabStop")));
 }
 
-TEST_F(Accessibility, K3TwoDefaultButtons) {
+TEST_F(Accessibility, DefaultButtonThereTwice) {
   SendMessageA(cancel_, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
-  EXPECT_THAT(Broken(), Contains(StartsWith("K3")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("DefaultButton")));
 }
 
-TEST_F(Accessibility, K4NothingForEscape) {
+TEST_F(Accessibility, NoEscape) {
   SetWindowLongPtrA(cancel_, GWLP_ID, 500);
-  EXPECT_THAT(Broken(), Contains(StartsWith("K4")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("NoEscape")));
 }
 
-TEST_F(Accessibility, K5SharedAccessKey) {
+TEST_F(Accessibility, SharedAccessKey) {
   SetWindowTextA(ok_, "&Save");
-  EXPECT_THAT(Broken(), Contains(StartsWith("K5")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("SharedAccessKey")));
 }
 
-TEST_F(Accessibility, K7SharedAccessKeyInAMenu) {
+TEST_F(Accessibility, SharedMenuKey) {
   EXPECT_THAT(BrokenMenuRules({{0, "&File", false, false, false},
                                {1, "&New", false, false, false},
                                {1, "&Next", false, false, false}}),
-              Contains(StartsWith("K7")));
+              Contains(StartsWith("SharedMenuKey")));
   EXPECT_THAT(BrokenMenuRules({{0, "&File", false, false, false},
                                {1, "&New", false, false, false},
                                {0, "&Track", false, false, false},
@@ -162,23 +162,23 @@ TEST_F(Accessibility, K7SharedAccessKeyInAMenu) {
               IsEmpty());
 }
 
-TEST_F(Accessibility, F1NoRowSelectedInTheFocusedList) {
+TEST_F(Accessibility, UselessFocusOnAListWithoutASelectedRow) {
   SendMessageA(list_, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
   SetFocus(list_);
-  EXPECT_THAT(Broken(), Contains(StartsWith("F1")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("UselessFocus")));
 }
 
-TEST_F(Accessibility, F1FocusedBoxDisabled) {
+TEST_F(Accessibility, UselessFocusOnADisabledBox) {
   EnableWindow(name_, FALSE);
-  EXPECT_THAT(Broken(), Contains(StartsWith("F1")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("UselessFocus")));
 }
 
-TEST_F(Accessibility, F1NothingHasTheFocus) {
+TEST_F(Accessibility, UselessFocusOnNothing) {
   SetFocus(nullptr);
-  EXPECT_THAT(Broken(), ElementsAre(StartsWith("F1")));
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("UselessFocus")));
 }
 
-TEST(AccessibilityOfEmptyWindows, F6WindowWithoutTheFocus) {
+TEST(AccessibilityOfEmptyWindows, FocusNotOnWindow) {
   const HWND window = CreateWindowExA(0, "STATIC", "Recording", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
                                       40, 40, 400, 400, nullptr, nullptr, nullptr, nullptr);
   const HWND helper =
@@ -186,25 +186,25 @@ TEST(AccessibilityOfEmptyWindows, F6WindowWithoutTheFocus) {
   SetFocus(window);
   EXPECT_THAT(BrokenRules(Window(window)), IsEmpty());
   SetFocus(helper);
-  EXPECT_THAT(BrokenRules(Window(window)), ElementsAre(StartsWith("F6")));
+  EXPECT_THAT(BrokenRules(Window(window)), ElementsAre(StartsWith("FocusNotOnWindow")));
   DestroyWindow(window);
 }
 
-TEST_F(Accessibility, L1ListThatCannotBeScrolled) {
+TEST_F(Accessibility, UnusualListThatCannotBeScrolled) {
   for (int i = 0; i < 50; i++) SendMessageA(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("x"));
   EXPECT_THAT(Broken(), IsEmpty());
   RemoveStyle(list_, WS_VSCROLL);
-  EXPECT_THAT(Broken(), ElementsAre(StartsWith("L1")));
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("UnusualList")));
 }
 
-TEST_F(Accessibility, L1ListThatTellsNothing) {
+TEST_F(Accessibility, UnusualListThatTellsNothing) {
   RemoveStyle(list_, LBS_NOTIFY);
-  EXPECT_THAT(Broken(), Contains(StartsWith("L1")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("UnusualList")));
 }
 
-TEST_F(Accessibility, V3CutCaption) {
+TEST_F(Accessibility, CutText) {
   MoveWindow(cancel_, 10, 240, 20, 24, TRUE);
-  EXPECT_THAT(Broken(), Contains(StartsWith("V3")));
+  EXPECT_THAT(Broken(), Contains(StartsWith("CutText")));
 }
 
 // A text and OK, as in a message box.
@@ -227,19 +227,19 @@ TEST_F(BoxAccessibility, GoodBoxBreaksNothing) {
   EXPECT_THAT(Broken(), IsEmpty());
 }
 
-TEST_F(BoxAccessibility, N4BoxWithoutATitle) {
+TEST_F(BoxAccessibility, NoTitle) {
   SetWindowTextA(window_, "");
-  EXPECT_THAT(Broken(), ElementsAre(StartsWith("N4")));
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("NoTitle")));
 }
 
-TEST_F(BoxAccessibility, N7SwallowedAmpersand) {
+TEST_F(BoxAccessibility, SwallowedAmpersand) {
   RemoveStyle(text_, SS_NOPREFIX);
-  EXPECT_THAT(Broken(), ElementsAre(StartsWith("N7")));
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("SwallowedAmpersand")));
 }
 
-TEST_F(BoxAccessibility, F1NoButtonHasTheFocus) {
+TEST_F(BoxAccessibility, UselessFocusOnNoButton) {
   SetFocus(Add("EDIT", "", WS_TABSTOP, 101, 100));
-  EXPECT_THAT(Broken(), ElementsAre(StartsWith("F1")));
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("UselessFocus")));
 }
 
 }  // namespace

@@ -72,10 +72,10 @@ void CheckNames(const std::vector<Control>& controls, Report& report) {
   for (const Control& control : controls) {
     if (!IsInteractive(control)) continue;
     if (control.name.empty()) {
-      report.Add(control.role == Role::Button ? "N3" : "N1",
+      report.Add(control.role == Role::Button ? "ButtonWithoutCaption" : "UnlabelledControl",
                  control.window.className() + " without a name");
     } else if (!names.insert(control.name).second) {
-      report.Add("N2", "two controls named \"" + control.name + "\"");
+      report.Add("SharedName", "two controls named \"" + control.name + "\"");
     }
   }
 }
@@ -87,8 +87,8 @@ void CheckReadingOrder(const std::vector<Control>& controls, Report& report) {
     const bool isOnSameLine = next.top < one.bottom && one.top < next.bottom;
     const bool isRight = isOnSameLine ? next.left >= one.right : next.top >= one.bottom;
     if (!isRight) {
-      report.Add("N5", "\"" + controls[i].name + "\" does not follow \"" + controls[i - 1].name +
-                           "\" on the screen");
+      report.Add("ReadingOrder", "\"" + controls[i].name + "\" does not follow \"" +
+                                     controls[i - 1].name + "\" on the screen");
     }
   }
 }
@@ -100,10 +100,10 @@ void CheckTexts(const std::vector<Control>& controls, Report& report) {
     const bool namesNext = i + 1 < controls.size() && controls[i + 1].role == Role::Field;
     const bool isOwnerEnabled = !namesNext || controls[i + 1].window.IsEnabled();
     if (!control.window.IsEnabled() && isOwnerEnabled) {
-      report.Add("N6", "disabled text \"" + control.text + "\"");
+      report.Add("UnheardText", "disabled text \"" + control.text + "\"");
     }
     if (!namesNext && i > 0 && controls[i - 1].role == Role::GroupBox) {
-      report.Add("N6", "text after a group box \"" + control.text + "\"");
+      report.Add("UnheardText", "text after a group box \"" + control.text + "\"");
     }
   }
 }
@@ -113,10 +113,11 @@ void CheckTabStops(const std::vector<Control>& controls, Report& report) {
     const bool isStop = (control.style & WS_TABSTOP) != 0;
     if (IsInteractive(control) && !isStop) {
       const bool isReadOnly = control.window.IsClass("Edit") && (control.style & ES_READONLY) != 0;
-      report.Add(isReadOnly ? "N8" : "K2", "no tab stop at \"" + control.name + "\"");
+      report.Add(isReadOnly ? "UnreachableText" : "TabStop",
+                 "no tab stop at \"" + control.name + "\"");
     }
     if (control.role == Role::Label && isStop) {
-      report.Add("K2", "tab stop at the text \"" + control.text + "\"");
+      report.Add("TabStop", "tab stop at the text \"" + control.text + "\"");
     }
   }
 }
@@ -127,8 +128,8 @@ void CheckButtons(const Window& window, const std::vector<Control>& controls, Re
   });
   if (!buttons) return;
   const auto defaults = std::count_if(controls.begin(), controls.end(), IsDefaultButton);
-  if (defaults != 1) report.Add("K3", std::to_string(defaults) + " default buttons");
-  if (!GetDlgItem(window.handle(), IDCANCEL)) report.Add("K4", "no button for Escape");
+  if (defaults != 1) report.Add("DefaultButton", std::to_string(defaults) + " default buttons");
+  if (!GetDlgItem(window.handle(), IDCANCEL)) report.Add("NoEscape", "no button for Escape");
 }
 
 void CheckAccessKeys(const std::vector<Control>& controls, Report& report) {
@@ -139,8 +140,8 @@ void CheckAccessKeys(const std::vector<Control>& controls, Report& report) {
     if (!key) continue;
     const auto [owner, isFirst] = owners.emplace(key, control.text);
     if (!isFirst) {
-      report.Add("K5", std::string("Alt+") + key + " for both \"" + owner->second + "\" and \"" +
-                           control.text + "\"");
+      report.Add("SharedAccessKey", std::string("Alt+") + key + " for both \"" + owner->second +
+                                        "\" and \"" + control.text + "\"");
     }
   }
 }
@@ -149,15 +150,15 @@ void CheckFocus(const Window& window, const std::vector<Control>& controls, Repo
   const auto focus = window.focus();
   const bool isEmpty = std::none_of(controls.begin(), controls.end(), IsInteractive);
   if (!focus) {
-    report.Add("F1", "nothing has the focus");
+    report.Add("UselessFocus", "nothing has the focus");
   } else if (isEmpty) {
-    if (!(*focus == window)) report.Add("F6", "the window itself has not the focus");
+    if (!(*focus == window)) report.Add("FocusNotOnWindow", "the window itself has not the focus");
   } else if (!IsChild(window.handle(), focus->handle()) || !focus->IsVisible() ||
              !focus->IsEnabled()) {
-    report.Add("F1", "the focus is on no usable control, but on " + focus->className());
+    report.Add("UselessFocus", "the focus is on no usable control, but on " + focus->className());
   } else if (focus->IsClass("ListBox") && focus->Ask(LB_GETCOUNT).value_or(0) > 0 &&
              focus->Ask(LB_GETCURSEL).value_or(-1) < 0) {
-    report.Add("F1", "the list \"" + focus->name() + "\" has rows, but none is selected");
+    report.Add("UselessFocus", "the list \"" + focus->name() + "\" has rows, but none is selected");
   }
 }
 
@@ -166,13 +167,13 @@ void CheckLists(const std::vector<Control>& controls, Report& report) {
     if (!control.window.IsClass("ListBox")) continue;
     const bool isDrawn = (control.style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0;
     if (isDrawn || !(control.style & LBS_NOTIFY)) {
-      report.Add("L1", "the list \"" + control.name + "\" is not the system's plain list");
+      report.Add("UnusualList", "the list \"" + control.name + "\" is not the system's plain list");
     }
     // A list takes its scroll bar away while all rows are in sight.
     const LRESULT height = control.window.Ask(LB_GETCOUNT).value_or(0) *
                            control.window.Ask(LB_GETITEMHEIGHT).value_or(0);
     if (height > control.window.clientSize().bottom && !(control.style & WS_VSCROLL)) {
-      report.Add("L1", "the list \"" + control.name + "\" cannot be scrolled");
+      report.Add("UnusualList", "the list \"" + control.name + "\" cannot be scrolled");
     }
   }
 }
@@ -201,7 +202,7 @@ void CheckCutTexts(const std::vector<Control>& controls, Report& report) {
     const UINT wrap = control.role == Role::Label ? static_cast<UINT>(DT_WORDBREAK) : 0U;
     const SIZE size = SizeOf(control.text, width, wrap);
     if (size.cx > width || size.cy > height) {
-      report.Add("V3", "\"" + control.text + "\" is cut");
+      report.Add("CutText", "\"" + control.text + "\" is cut");
     }
   }
 }
@@ -216,10 +217,10 @@ UINT& DrawnDpi() {
 std::vector<std::string> BrokenRules(const Window& window) {
   Report report;
   const std::vector<Control> controls = VisibleControls(window);
-  if (window.text().empty()) report.Add("N4", "no title");
+  if (window.text().empty()) report.Add("NoTitle", "no title");
   const bool hasControls = std::any_of(controls.begin(), controls.end(), IsInteractive);
   if (hasControls && !window.IsClass("#32770")) {
-    report.Add("K1", "no dialog, but " + window.className());
+    report.Add("NoDialog", "no dialog, but " + window.className());
   }
   CheckNames(controls, report);
   CheckReadingOrder(controls, report);
@@ -237,14 +238,14 @@ std::vector<std::string> BrokenRules(const Window& window) {
 
 std::vector<std::string> BrokenBoxRules(const Window& box) {
   Report report;
-  if (box.text().empty()) report.Add("N4", "no title");
+  if (box.text().empty()) report.Add("NoTitle", "no title");
   if (const auto focus = box.focus(); !focus || !focus->IsClass("Button")) {
-    report.Add("F1", "the focus is on no button");
+    report.Add("UselessFocus", "the focus is on no button");
   }
   for (const Window& text : box.controls("Static")) {
     const bool isShownWhole = (text.style() & SS_NOPREFIX) != 0;
     if (!isShownWhole && text.text().find('&') != std::string::npos) {
-      report.Add("N7", "\"" + text.text() + "\" loses its \"&\"");
+      report.Add("SwallowedAmpersand", "\"" + text.text() + "\" loses its \"&\"");
     }
   }
   return report.lines();
@@ -260,8 +261,8 @@ std::vector<std::string> BrokenMenuRules(const std::vector<MenuLine>& lines) {
     if (!key) continue;
     const auto [owner, isFirst] = levels.back().emplace(key, line.caption);
     if (!isFirst) {
-      report.Add("K7", std::string(1, key) + " for both \"" + owner->second + "\" and \"" +
-                           line.caption + "\"");
+      report.Add("SharedMenuKey", std::string(1, key) + " for both \"" + owner->second +
+                                      "\" and \"" + line.caption + "\"");
     }
   }
   return report.lines();

@@ -10,16 +10,24 @@
 namespace E2e {
 
 // The rules that a window of the program breaks, a line for each; empty if it keeps them all. A
-// line begins with the rule's letter and number:
-//   N1 a box or list has a label just before it     N2 no two controls bear the same name
-//   N3 buttons have a caption                       N4 the window has a title
-//   N5 reading order is the visual order            N6 explaining texts are heard
-//   N8 read-only texts can be reached               K1 the window is a real dialog
-//   K2 Tab stops where it should                    K3 exactly one default button
-//   K4 Escape has its button                        K5 access keys are unique
-//   K7 those of a menu too                          F1 the focus is on something useful
-//   F6 or on the window, if it has no controls      L1 lists are the system's
-//   V3 no text is cut
+// line begins with the rule's name:
+//   UnlabelledControl     a box or list has a label just before it
+//   SharedName            no two controls bear the same name
+//   ButtonWithoutCaption  a button has a caption
+//   NoTitle               the window has a title
+//   ReadingOrder          controls are read in the order in which they are seen
+//   UnheardText           an explaining text is not disabled, and does not follow a group box
+//   UnreachableText       a read-only box is a tab stop
+//   NoDialog              a window with controls is one of the system's dialogs
+//   TabStop               every other control is a tab stop, and no label
+//   DefaultButton         one button, and one alone, is pressed by Enter
+//   NoEscape              one is pressed by Escape
+//   SharedAccessKey       no two buttons or labels have the same access key
+//   SharedMenuKey         nor have two items of the same menu
+//   UselessFocus          the focus is on a usable control; if that is a list, a row is selected
+//   FocusNotOnWindow      a window without controls has the focus itself
+//   UnusualList           a list is the system's plain one, and can be scrolled
+//   CutText               captions and labels are shown whole
 // The window must be in front and shown completely, in the density of DrawnDpi.
 std::vector<std::string> BrokenRules(const Window& window);
 
@@ -27,11 +35,12 @@ std::vector<std::string> BrokenRules(const Window& window);
 // program's own screen.
 UINT& DrawnDpi();
 
-// The same for a message box, whose insides are the system's: N4, F1, and N7: an "&" in its text is
-// shown as it is.
+// The same for a message box, whose insides are the system's: NoTitle; UselessFocus, which is any
+// but on a button; and
+//   SwallowedAmpersand    an "&" in its text is shown as it is
 std::vector<std::string> BrokenBoxRules(const Window& box);
 
-// The same for the menus of a window alone: K7.
+// The same for the menus of a window alone: SharedMenuKey.
 std::vector<std::string> BrokenMenuRules(const std::vector<MenuLine>& lines);
 
 }  // namespace E2e
