@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds everything and runs every test there is. The last line tells how many passed and failed;
-# the exit status is 0 if none failed.
+# Builds everything and runs every test there is. The last line tells how many passed, failed and
+# could not be run here, and how long it took; the exit status is 0 if none failed.
 set -euo pipefail
 cd "$(dirname "$0")"
 exec </dev/null

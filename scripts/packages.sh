@@ -17,15 +17,18 @@ as_root() {
   if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-# apt ARGUMENT...: apt-get, asking nothing. It removes no package: what the user has stays.
+# apt ARGUMENT...: apt-get, asking nothing.
 apt() {
   as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
     -o Dpkg::Use-Pty=0 "$@"
 }
 
-# Installs packages without starting their services, now or when the machine starts. In a shell of
-# its own, which gives the machine its own policy back however it ends.
+# Installs packages without starting their services, now or when the machine starts. What the user
+# has stays: no package is removed, and a web server that was there before keeps its settings. In a
+# shell of its own, which gives the machine its own policy back however it ends.
 install_quietly() (
+  had_web_server=false
+  ! is_installed nginx || had_web_server=true
   policy=/usr/sbin/policy-rc.d
   apt update || return 1
   if [ ! -e "$policy" ]; then
@@ -34,7 +37,7 @@ install_quietly() (
     as_root chmod +x "$policy"
   fi
   apt install --yes --no-remove --no-install-recommends "$@" || return 1
-  if [ -d /run/systemd/system ] && [[ " $* " == *" nginx-light "* ]]; then
+  if [ -d /run/systemd/system ] && [ "$had_web_server" = false ] && is_installed nginx; then
     as_root systemctl --quiet disable nginx
   fi
 )

@@ -96,6 +96,7 @@ report_suites() {
   echo
   printf '%s\n' "${suite_lines[@]}"
   echo
-  echo "$passed passed, $failed failed, $skipped skipped"
+  printf '%s passed, %s failed, %s skipped, in %d min %02d s\n' "$passed" "$failed" "$skipped" \
+    $((SECONDS / 60)) $((SECONDS % 60))
   [ "$failed" = 0 ]
 }
