@@ -23,10 +23,11 @@ class FileDialog {
 
   // Shows the dialog over the window in use. Returns the full path that was chosen; empty if it was
   // cancelled. A file to open need not exist: the caller's own message tells. Saving under the name
-  // of a file that is there is confirmed in the dialog: on No it stays. What the code page cannot
-  // hold of a path becomes "?", which no name can have, so that no other file is meant.
+  // of a file that is there is confirmed in the dialog: on No it stays.
   // The program's current folder stays what it was.
-  // Fails with RuntimeError DeviceError if the system cannot show it.
+  // Fails with RuntimeError DeviceError if the system cannot show it; with PathFileAccess, cause
+  // NameNotUsable, at the choice of a path that the program cannot use: too long, or with a
+  // character that the code page cannot hold.
   std::string Show();
 
   Kind kind() const { return kind_; }

@@ -13,6 +13,13 @@ std::string FolderOf(std::string_view path);
 // The path behind its last backslash; the whole path if there is none.
 std::string NameOf(std::string_view path);
 
+// False if the path is longer than 259 bytes or holds a character that no name can have, such as
+// the "?" that stands for one that the code page lacks.
+bool IsNameUsable(std::string_view path);
+
+// Fails with RuntimeError PathFileAccess, cause NameNotUsable, if it is not.
+void CheckName(const std::string& path);
+
 // True if the path ends in an extension such as ".trk", whatever its letter case.
 bool HasExtension(std::string_view path, std::string_view extension);
 

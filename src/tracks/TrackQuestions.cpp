@@ -26,6 +26,7 @@ std::string WithTrackExtension(const std::string& path) {
 }
 
 bool MayBeWritten(const std::string& path, const std::string& chosen) {
+  Platform::CheckName(path);
   const bool isAsChosen = Platform::LowerCase(path) == Platform::LowerCase(chosen);
   if (isAsChosen || !Platform::FileExists(path)) return true;
   const std::string question =

@@ -19,7 +19,8 @@ std::string WithTrackExtension(const std::string& path);
 
 // Whether a file to write may stand at the path. The dialog has asked about a file under the name
 // that was chosen; where the program has made another name of it and there is a file of that name,
-// the user is asked whether it shall be replaced.
+// the user is asked whether it shall be replaced. Fails with PathFileAccess, cause NameNotUsable,
+// if that other name has become too long.
 bool MayBeWritten(const std::string& path, const std::string& chosen);
 
 // Asks whether the sun shall shine on the track; otherwise it rains.

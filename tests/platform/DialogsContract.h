@@ -249,6 +249,15 @@ TEST_F(FileDialogContract, ABareNameIsInTheInitialFolder) {
   EXPECT_EQ(Typing("lake.trk", save), folder + "\\lake.trk");
 }
 
+TEST_F(FileDialogContract, AnInitialFolderThatIsNoneIsDoneWithout) {
+  TestMachine::PutFile(folder + "\\hill.trk", "1");
+  const std::string none = "C:\\" + std::string(300, 'x');
+  for (const std::string& wrong : {folder + "\\nowhere", std::string("<:?*>"), none}) {
+    open.initialFolder = wrong;
+    EXPECT_EQ(Typing(folder + "\\hill.trk", open), folder + "\\hill.trk") << wrong;
+  }
+}
+
 TEST_F(FileDialogContract, AFileToOpenNeedNotExist) {
   EXPECT_EQ(Typing(folder + "\\nothing.trk", open), folder + "\\nothing.trk");
 }

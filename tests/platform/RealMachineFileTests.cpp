@@ -1,6 +1,8 @@
 // What only the real machine can get wrong with files and their dialogs.
 #include <gmock/gmock.h>
 
+#include <functional>
+
 #include "base/RuntimeError.h"
 #include "platform/FileDialog.h"
 #include "platform/Files.h"
@@ -38,6 +40,23 @@ class Environment {
   const char* name_;
   std::string before_;
 };
+
+TEST_F(RealFiles, ADeviceIsNoFile) {
+  const std::string device = In("nul");
+  const auto isRefused = [&](const std::function<void()>& call) {
+    try {
+      call();
+    } catch (const RuntimeError& error) {
+      return error.file() == device;
+    }
+    return false;
+  };
+  EXPECT_TRUE(isRefused([&] { Platform::FileReader reader(device); }));
+  EXPECT_TRUE(isRefused([&] { Platform::ReadWholeFile(device); }));
+  EXPECT_TRUE(isRefused([&] { Platform::AppendToFile(device, "1"); }));
+  EXPECT_TRUE(isRefused([&] { Platform::WriteWholeFile(device, "1"); }));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{});
+}
 
 class RewritingInPlace : public RealFiles {
  protected:
@@ -122,7 +141,12 @@ TEST_F(RealFiles, ADialogLeavesTheCurrentFolderAndTheChosenNameAsTheyAre) {
       SetWindowTextW(GetFocus(), L"tracks\\\u0100.trk");
       TestMachine::Press("Enter");
     });
-    EXPECT_EQ(dialog.Show(), In("tracks\\?.trk")) << "not the A that looks like it";
+    try {
+      ADD_FAILURE() << "not the A that looks like it, but " << dialog.Show();
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.number(), RuntimeError::PathFileAccess);
+      EXPECT_EQ(error.file(), In("tracks\\?.trk"));
+    }
     TestMachine::WhenModalWindowOpens([] { TestMachine::LeaveFileDialog(); });
     dialog.Show();
     EXPECT_EQ(currentFolder(), before);

@@ -97,22 +97,25 @@ std::string HostName(const std::string& path) {
   return name;
 }
 
-// Where the system does not mind rights, the one beneath it may have a way of its own. Changes
-// nothing if there is none.
+// Where the system does not mind rights, the one beneath it may have a way of its own. Returns
+// false if there is none, or it is not the user's to go.
 //   attribute  "i" for what cannot be changed, "a" for what can only grow; with "+" or "-".
-void SetHostAttribute(const std::string& path, const std::string& attribute) {
+bool SetHostAttribute(const std::string& path, const std::string& attribute) {
   const std::string name = HostName(path);
-  if (name.empty()) return;
-  // The system beneath gives no handle to wait for, so it leaves a mark when it is done.
+  if (name.empty()) return false;
+  // The system beneath gives no handle to wait for, so it leaves a mark when it is done, and one
+  // before if it went well.
+  const std::string hostMark = HostName(TemporaryFolder());
+  const std::string wentWell = TemporaryFolder() + ".well";
   const std::string mark = TemporaryFolder() + ".done";
-  std::string command = "\"Z:\\bin\\sh\" -c \"chattr " + attribute + " " + name + "; touch " +
-                        HostName(TemporaryFolder()) + ".done\"";
+  std::string command = "\"Z:\\bin\\sh\" -c \"chattr " + attribute + " " + name + " && touch " +
+                        hostMark + ".well; touch " + hostMark + ".done\"";
   STARTUPINFOA start{};
   start.cb = sizeof start;
   PROCESS_INFORMATION process{};
   if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
                       &process)) {
-    return;
+    return false;
   }
   // A program of the system beneath has no process here, and what is told of its thread is noise.
   if (process.hProcess) {
@@ -122,6 +125,7 @@ void SetHostAttribute(const std::string& path, const std::string& attribute) {
   constexpr ULONGLONG PatienceMs = 10000;
   const ULONGLONG deadline = GetTickCount64() + PatienceMs;
   while (!DeleteFileA(mark.c_str()) && GetTickCount64() < deadline) SwitchToThread();
+  return DeleteFileA(wentWell.c_str()) != 0;
 }
 
 std::vector<std::string>& OnlyGrowing() {
@@ -185,8 +189,7 @@ void RemoveLeftovers() {
 }  // namespace
 
 std::string ScratchFolder() {
-  static const bool isTidy = (RemoveLeftovers(), true);
-  EXPECT_TRUE(isTidy);
+  [[maybe_unused]] static const bool isTidy = (RemoveLeftovers(), true);
   const std::string folder = TemporaryFolder();
   CreateDirectoryA(folder.c_str(), nullptr);
   return folder;
@@ -269,9 +272,8 @@ bool RefuseNewFiles(const std::string& folder) {
 }  // namespace TestMachine
 
 bool RealMachine::RefuseShortening(const std::string& path) {
-  if (TestMachine::HostName(path).empty()) return false;
+  if (!TestMachine::SetHostAttribute(path, "+a")) return false;
   TestMachine::OnlyGrowing().push_back(path);
-  TestMachine::SetHostAttribute(path, "+a");
   return true;
 }
 

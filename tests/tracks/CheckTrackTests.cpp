@@ -40,6 +40,17 @@ TEST_F(CheckTrackStory, ACancelledDialogIsTold) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
+TEST_F(CheckTrackStory, ANameThatCannotBeUsedIsToldAsThat) {
+  user.ChoosesFile("????.trk");
+  ChecksFile();
+  EXPECT_THAT(user.Boxes(),
+              ElementsAre(Shows(Icon::Critical,
+                                testing::StartsWith("The file name is too long or holds "
+                                                    "characters that cannot be used."),
+                                "Error")));
+  EXPECT_EQ(user.SeesWindow(), PackTitle);
+}
+
 TEST_F(CheckTrackStory, AGoodFileIsTold) {
   ChecksFile("0\r\n0\r\n5000\r\n-1\r\n0\r\n");
   EXPECT_THAT(user.Boxes(),

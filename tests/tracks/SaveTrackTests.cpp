@@ -168,11 +168,15 @@ TEST_F(SaveTrackStory, AFolderThatIsGoneIsTold) {
   EXPECT_EQ(user.SeesWindow(), EditorTitle);
 }
 
-TEST_F(SaveTrackStory, ANameThatIsTooLongIsTold) {
-  StartsTrack(std::string(250, 'a'));
-  AddsPart(0, 0, "5000");
-  SavesSunnyTrack();
-  EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, HasSubstr("name is too long")));
+TEST_F(SaveTrackStory, ANameThatIsTooLongIsToldBeforeAnythingIsBuilt) {
+  constexpr size_t Longest = 259;
+  const size_t rest = Longest - Tracks.size() - 1;
+  for (const size_t length : {rest + 1, rest, rest - 3}) {  // the extension takes four
+    StartsTrack(std::string(length, 'a'));
+    EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, HasSubstr("name is too long")));
+    EXPECT_EQ(user.SeesWindow(), PackTitle);
+  }
+  StartsTrack(std::string(rest - 4, 'a'));
   EXPECT_EQ(user.SeesWindow(), EditorTitle);
 }
 

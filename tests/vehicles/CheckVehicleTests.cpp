@@ -37,6 +37,16 @@ TEST_F(CheckVehicleStory, ACancelledDialogIsTold) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
+TEST_F(CheckVehicleStory, ANameThatCannotBeUsedIsToldAsThat) {
+  user.ChoosesFile(Folder + "\\????.vhc");
+  ChecksFile();
+  EXPECT_THAT(user.Boxes(), ElementsAre(Shows(Icon::Critical,
+                                              StartsWith("The file name is too long or holds "
+                                                         "characters that cannot be used."),
+                                              "Error")));
+  EXPECT_EQ(user.SeesWindow(), PackTitle);
+}
+
 TEST_F(CheckVehicleStory, AGoodFileIsTold) {
   machine.files.Put(Path, "enginesound=car1\r\nskidrun=250\r\n");
   user.ChoosesFile(Path);

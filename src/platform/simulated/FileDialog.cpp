@@ -52,7 +52,9 @@ std::string FileDialog::Show() {
     script.files.pop_front();
     if (typed.empty()) return "";
     std::string path = Completed(*this, typed);
-    if (MayBeChosen(*this, path)) return path;
+    if (!MayBeChosen(*this, path)) continue;
+    CheckName(path);
+    return path;
   }
 }
 

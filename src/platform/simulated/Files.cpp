@@ -16,18 +16,6 @@ using Simulated::TheMachine;
 
 namespace {
 
-constexpr size_t LongestPath = 259;
-
-bool IsUsable(const std::string& path) {
-  if (path.size() > LongestPath) return false;
-  for (size_t i = 0; i < path.size(); ++i) {
-    if (static_cast<unsigned char>(path[i]) < ' ' || std::strchr("<>\"|?*", path[i])) return false;
-    if (path[i] == ':' && i != 1) return false;
-    if (IsLeadByte(path[i])) ++i;
-  }
-  return true;
-}
-
 Simulated::Disk& TheDisk() {
   return TheMachine().files;
 }
@@ -37,11 +25,6 @@ bool Strikes(const char* call, const std::string& path) {
   return TheMachine().faults.Strikes(std::string(call) + " " + path);
 }
 
-void RequireUsable(const std::string& path) {
-  if (IsUsable(path)) return;
-  throw RuntimeError(RuntimeError::PathFileAccess, RuntimeErrorTexts.NameNotUsable, path);
-}
-
 DiskEntry* FolderHolding(const std::string& path) {
   DiskEntry* folder = TheDisk().Find(FolderOf(path));
   return folder && folder->isFolder ? folder : nullptr;
@@ -49,7 +32,7 @@ DiskEntry* FolderHolding(const std::string& path) {
 
 // A file that can be read, or nothing if there is none.
 DiskEntry* FindReadable(const std::string& path) {
-  RequireUsable(path);
+  CheckName(path);
   DiskEntry* file = TheDisk().Find(path);
   if (!file) return nullptr;
   if (file->isFolder) throw RuntimeError(RuntimeError::PathFileAccess, path);
@@ -59,7 +42,7 @@ DiskEntry* FindReadable(const std::string& path) {
 
 // Fails if no file can be put under the name.
 void RequireWritable(const std::string& path) {
-  RequireUsable(path);
+  CheckName(path);
   const DiskEntry* folder = FolderHolding(path);
   if (!folder) throw RuntimeError(RuntimeError::PathNotFound, path);
   const DiskEntry* file = TheDisk().Find(path);
@@ -87,11 +70,11 @@ void PutInPlace(const std::string& path, std::string bytes) {
 }  // namespace
 
 bool FileExists(const std::string& path) {
-  return !Strikes("FileExists", path) && IsUsable(path) && TheDisk().Exists(path);
+  return !Strikes("FileExists", path) && IsNameUsable(path) && TheDisk().Exists(path);
 }
 
 std::optional<FileStamp> StampOf(const std::string& path) {
-  if (Strikes("StampOf", path) || !IsUsable(path)) return std::nullopt;
+  if (Strikes("StampOf", path) || !IsNameUsable(path)) return std::nullopt;
   const DiskEntry* file = TheDisk().Find(path);
   if (!file || file->isFolder) return std::nullopt;
   return FileStamp{SizeOf(*file), file->lastWrite};
@@ -124,7 +107,7 @@ void AppendToFile(const std::string& path, std::string_view bytes) {
 
 bool RemoveFile(const std::string& path) {
   if (Strikes("RemoveFile", path)) throw RuntimeError(RuntimeError::PermissionDenied, path);
-  RequireUsable(path);
+  CheckName(path);
   const DiskEntry* file = TheDisk().Find(path);
   if (!file) return false;
   if (file->isFolder || file->attributes & Simulated::ReadOnly) {

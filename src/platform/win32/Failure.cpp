@@ -1,20 +1,10 @@
 #include "platform/win32/Failure.h"
 
-#include <string_view>
-
 #include "base/RuntimeError.h"
-#include "platform/Characters.h"
 
 namespace Platform {
 
 namespace {
-
-// MAX_PATH counts the NUL at the end.
-constexpr size_t LongestPath = MAX_PATH - 1;
-
-RuntimeError NameNotUsable(const std::string& path) {
-  return {RuntimeError::PathFileAccess, RuntimeErrorTexts.NameNotUsable, path};
-}
 
 RuntimeError::Number NumberOf(DWORD error) {
   switch (error) {
@@ -48,7 +38,8 @@ void FailWith(DWORD error, const std::string& path, Access access) {
   switch (error) {
     case ERROR_INVALID_NAME:
     case ERROR_BAD_PATHNAME:
-    case ERROR_FILENAME_EXCED_RANGE: throw NameNotUsable(path);
+    case ERROR_FILENAME_EXCED_RANGE:
+      throw RuntimeError(RuntimeError::PathFileAccess, RuntimeErrorTexts.NameNotUsable, path);
     default: break;
   }
   if (error == ERROR_ACCESS_DENIED) {
@@ -70,35 +61,6 @@ bool IsInUse(DWORD error) {
 
 bool IsInUseForReplacing(DWORD error) {
   return IsInUse(error) || error == ERROR_ACCESS_DENIED;
-}
-
-bool IsNameUsable(const std::string& path) {
-  if (path.size() > LongestPath) return false;
-  for (size_t i = 0; i < path.size(); ++i) {
-    const auto c = static_cast<unsigned char>(path[i]);
-    const bool isDriveColon = c == ':' && i == 1;
-    if (c < ' ') return false;
-    if (!isDriveColon && std::string_view("<>:\"|?*").find(path[i]) != std::string_view::npos) {
-      return false;
-    }
-    // In a code page of two bytes a character, the second may look like one of the above.
-    if (IsLeadByte(path[i])) ++i;
-  }
-  return true;
-}
-
-void CheckName(const std::string& path) {
-  if (!IsNameUsable(path)) throw NameNotUsable(path);
-}
-
-DWORD CheckWritable(const std::string& path) {
-  CheckName(path);
-  const DWORD attributes = GetFileAttributesA(path.c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES &&
-      (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))) {
-    throw RuntimeError(RuntimeError::PathFileAccess, path);
-  }
-  return attributes;
 }
 
 }  // namespace Platform

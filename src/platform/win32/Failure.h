@@ -22,14 +22,4 @@ bool IsInUse(DWORD error);
 // has it open.
 bool IsInUseForReplacing(DWORD error);
 
-// False if the path is too long or holds a character that no name can have.
-bool IsNameUsable(const std::string& path);
-// Fails with PathFileAccess, cause NameNotUsable, if it is not.
-void CheckName(const std::string& path);
-
-// The same for a file that is to be written, which must not be a folder or write-protected either:
-// fails with PathFileAccess. Returns the attributes of what stands there, INVALID_FILE_ATTRIBUTES
-// if nothing does.
-DWORD CheckWritable(const std::string& path);
-
 }  // namespace Platform

@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "base/RuntimeError.h"
+#include "platform/Paths.h"
 #include "platform/win32/CodePage.h"
 #include "platform/win32/FormWindow.h"
 
@@ -77,10 +79,13 @@ std::optional<std::string> Ask(const FileDialog& dialog, const std::string& fold
 }  // namespace
 
 std::string FileDialog::Show() {
-  if (const auto chosen = Ask(*this, initialFolder)) return *chosen;
+  auto chosen = Ask(*this, initialFolder);
   // A folder that the system cannot make sense of is no reason to go without the dialog.
-  if (const auto chosen = Ask(*this, "")) return *chosen;
-  throw RuntimeError(RuntimeError::DeviceError);
+  if (!chosen) chosen = Ask(*this, "");
+  if (!chosen) throw RuntimeError(RuntimeError::DeviceError);
+  // What the code page cannot hold has become "?", so that no other file is meant.
+  CheckName(*chosen);
+  return *std::move(chosen);
 }
 
 }  // namespace Platform

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "base/RuntimeError.h"
+#include "platform/Paths.h"
+
 namespace Platform {
 
 namespace {
@@ -14,9 +17,11 @@ OpenFile::OpenFile(const std::string& path, DWORD access, DWORD sharing, DWORD d
     : path_(path) {
   handle_ =
       Handle(CreateFileA(path.c_str(), access, sharing, nullptr, disposition, attributes, nullptr));
-  if (!handle_) {
-    error_ = GetLastError();
-  } else if (GetFileType(handle_.get()) != FILE_TYPE_DISK) {
+  error_ = GetLastError();
+  if (!handle_) return;
+  isNew_ = error_ != ERROR_ALREADY_EXISTS;
+  error_ = ERROR_SUCCESS;
+  if (GetFileType(handle_.get()) != FILE_TYPE_DISK) {
     handle_.Close();
     error_ = ERROR_INVALID_NAME;  // a device such as "con"
   }
@@ -67,6 +72,15 @@ void OpenFile::Flush() {
 
 void OpenFile::Close() {
   if (!handle_.Close()) Fail(Access::Writing);
+}
+
+void CheckWritable(const std::string& path) {
+  CheckName(path);
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES &&
+      (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))) {
+    throw RuntimeError(RuntimeError::PathFileAccess, path);
+  }
 }
 
 }  // namespace Platform

@@ -21,6 +21,8 @@ class OpenFile {
            DWORD attributes = FILE_ATTRIBUTE_NORMAL);
 
   bool IsOpen() const { return static_cast<bool>(handle_); }
+  // True if OPEN_ALWAYS has made the file.
+  bool IsNew() const { return isNew_; }
   DWORD error() const { return error_; }
   const std::string& path() const { return path_; }
   HANDLE get() const { return handle_.get(); }
@@ -40,8 +42,13 @@ class OpenFile {
 
   Handle handle_;
   DWORD error_ = ERROR_SUCCESS;
+  bool isNew_ = false;
   std::string path_;
 };
+
+// Fails with PathFileAccess if a path is no name for a file that is to be written, or what stands
+// there is a folder or write-protected.
+void CheckWritable(const std::string& path);
 
 // Runs an attempt, which returns ERROR_SUCCESS or a system error, again and again for up to a
 // second while another program, such as a virus scanner, holds the file. Returns the last error.

@@ -1,4 +1,5 @@
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/win32/FileHandles.h"
 
 namespace Platform {

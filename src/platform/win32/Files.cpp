@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include "base/RuntimeError.h"
+#include "platform/Paths.h"
 #include "platform/win32/FileHandles.h"
 
 namespace Platform {
@@ -51,9 +52,10 @@ void WriteWholeFile(const std::string& path, std::string_view bytes) {
 }
 
 void AppendToFile(const std::string& path, std::string_view bytes) {
-  const bool isNew = CheckWritable(path) == INVALID_FILE_ATTRIBUTES;
+  CheckWritable(path);
   OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   if (!file.IsOpen()) FailWith(file.error(), path, Access::Writing);
+  const bool isNew = file.IsNew();
 
   const uint64_t length = file.Size();
   file.Seek(length);
