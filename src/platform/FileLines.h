@@ -1,4 +1,5 @@
-// The lines of a file that may be too large to be held in memory.
+// The lines of a file that may be too large to be held in memory. Reading them is a long step:
+// other programs are answered between its blocks.
 #pragma once
 
 #include <string>
@@ -6,6 +7,7 @@
 
 #include "base/LineReader.h"
 #include "platform/Files.h"
+#include "platform/LongStep.h"
 
 namespace Platform {
 
@@ -13,8 +15,10 @@ class FileLines {
  public:
   // Fails as FileReader does.
   explicit FileLines(const std::string& path)
-      : file_(path),
-        lines_([this](char* buffer, size_t size) { return file_.Read(buffer, size); }) {}
+      : file_(path), lines_([this](char* buffer, size_t size) {
+          AnswerMessages();
+          return file_.Read(buffer, size);
+        }) {}
   FileLines(const FileLines&) = delete;
   FileLines& operator=(const FileLines&) = delete;
 

@@ -9,6 +9,7 @@
 #include "base/SharedTexts.h"
 #include "platform/FileLines.h"
 #include "platform/Files.h"
+#include "platform/LongStep.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "text/StringTable.h"
@@ -93,6 +94,7 @@ std::optional<VehicleVariable> Checker::FindVariable(std::string_view name) {
 std::optional<Fault> Checker::FaultOfSound(VehicleVariable variable, std::string_view value) const {
   if (IsInternalSound(variable, value)) return std::nullopt;
   const std::string path = folder_ + "\\" + std::string(value);
+  Platform::AnswerMessages();  // on a slow drive each name takes its time
   if (Platform::FileExists(path)) return std::nullopt;
   return Fault{VehicleFault::NonexistentSound,
                GetLangString(VehicleTexts.CVFNonexistentSoundFile1) + " " + path + " " +

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <optional>
 #include <thread>
 
 #include "platform/Forms.h"
@@ -15,26 +16,46 @@ class LongStep : public ContractTest {
  protected:
   LongStep() { Platform::StartProgram(main); }
 
+  // What the window answers to a message from outside of the program's thread, such as a screen
+  // reader's, that arrives during a long step. Nothing if it does not answer.
+  static std::optional<DWORD_PTR> AnswerDuringStep(HWND window, UINT message, WPARAM wParam = 0,
+                                                   LPARAM lParam = 0) {
+    std::atomic<bool> isOver = false;
+    DWORD_PTR answer = 0;
+    LRESULT isAnswered = 0;
+    std::thread other([&] {
+      constexpr UINT PatienceMs = 20000;
+      isAnswered =
+          SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, PatienceMs, &answer);
+      isOver = true;
+    });
+    while (!isOver) Platform::AnswerMessages();
+    other.join();
+    if (!isAnswered) return std::nullopt;
+    return answer;
+  }
+
   Platform::Form main{FixedText("Main")};
   Platform::TextBox Name{main, {.label = FixedText("&Name")}};
+  Platform::Button Save{main, {.text = FixedText("&Save")}};
 };
 
 TEST_F(LongStep, IsInterruptedByQuestionsOfOthers) {
+  EXPECT_EQ(AnswerDuringStep(Platform::ActiveWindow(), WM_GETTEXTLENGTH), 4u);
+}
+
+TEST_F(LongStep, IsNotInterruptedByOthersThatPressAButtonOrCloseTheWindow) {
+  bool isSaved = false;
+  Save.OnClick = [&] { isSaved = true; };
   const HWND window = Platform::ActiveWindow();
-  std::atomic<bool> isOver = false;
-  LRESULT answered = 0;
-  DWORD_PTR length = 0;
-  // As a screen reader asks: from outside of the program's thread.
-  std::thread other([&] {
-    constexpr UINT PatienceMs = 20000;
-    answered =
-        SendMessageTimeoutA(window, WM_GETTEXTLENGTH, 0, 0, SMTO_NORMAL, PatienceMs, &length);
-    isOver = true;
-  });
-  while (!isOver) Platform::AnswerMessages();
-  other.join();
-  EXPECT_NE(answered, 0);
-  EXPECT_EQ(length, 4u);
+  const HWND button = FindWindowExA(window, nullptr, "Button", nullptr);
+  ASSERT_NE(button, nullptr);
+  EXPECT_TRUE(AnswerDuringStep(button, BM_CLICK));
+  EXPECT_FALSE(isSaved);
+  EXPECT_TRUE(AnswerDuringStep(window, WM_CLOSE));
+  EXPECT_TRUE(main.IsVisible());
+  SendMessageA(button, BM_CLICK, 0, 0);
+  EXPECT_TRUE(isSaved) << "the step is over";
 }
 
 TEST_F(LongStep, LeavesWhatTheUserDoesForLater) {

@@ -302,6 +302,13 @@ TEST_F(VehicleChecker, AHundredMegabytesAreCheckedInLittleMemory) {
   EXPECT_LT(*growth, 16 * Megabyte);
 }
 
+TEST_F(VehicleChecker, OtherProgramsAreAnsweredBeforeEachSoundIsLookedFor) {
+  const int before = machine.screen.answers;
+  machine.files.Put(Folder + "\\horn.wav", "");
+  EXPECT_EQ(Check("hornsound=horn.wav\r\nhornsound=horn.wav\r\nhornsound=horn.wav\r\n"), Passed());
+  EXPECT_GE(machine.screen.answers, before + 3);
+}
+
 // Whatever call fails first, the checker returns a verdict of its contract.
 TEST(VehicleCheckerSweep, AnyFailureIsAVerdict) {
   const std::string folder = "C:\\Games\\Skidrun2\\vehicles\\rocket";

@@ -9,6 +9,7 @@
 #include "base/RuntimeError.h"
 #include "platform/Forms.h"
 #include "platform/win32/DialogTemplate.h"
+#include "platform/win32/LongStep.h"
 #include "platform/win32/MessageLoop.h"
 
 namespace Platform {
@@ -190,7 +191,7 @@ void FormView::Native::RunModal(HWND owner) {
 
 bool FormView::Native::TakesInput() const {
   // A box disables the window under it alone, not those that are hidden.
-  return IsWindowEnabled(window_) && IsWindowEnabled(ActiveWindow());
+  return !IsAnsweringMessages() && IsWindowEnabled(window_) && IsWindowEnabled(ActiveWindow());
 }
 
 void FormView::Native::EndModal() {
@@ -323,7 +324,8 @@ void FormView::Native::Command(WPARAM wParam, LPARAM lParam) {
   const auto sender = reinterpret_cast<HWND>(lParam);
   if (!sender) {
     // Of the menu; or Enter or Escape in a dialog that has no button for it.
-    if (MenuItem* const item = menuBar_->ItemOf(LOWORD(wParam))) item->Choose();
+    MenuItem* const item = menuBar_->ItemOf(LOWORD(wParam));
+    if (item && TakesInput()) item->Choose();
     return;
   }
   const auto child = std::find_if(controls_.begin(), controls_.end(),
@@ -333,12 +335,12 @@ void FormView::Native::Command(WPARAM wParam, LPARAM lParam) {
   switch (child->control().kind()) {
     case Control::Kind::Label: return;
     case Control::Kind::Button:
-      if (event == BN_CLICKED) static_cast<Button&>(child->control()).Click();
+      if (event == BN_CLICKED && TakesInput()) static_cast<Button&>(child->control()).Click();
       return;
     case Control::Kind::ListBox: {
       auto& list = static_cast<ListBox&>(child->control());
       if (event == LBN_SELCHANGE) list.Selected(child->SelectedRow());
-      if (event == LBN_DBLCLK) list.DoubleClicked();
+      if (event == LBN_DBLCLK && TakesInput()) list.DoubleClicked();
       return;
     }
     case Control::Kind::TextBox:

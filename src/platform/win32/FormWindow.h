@@ -39,7 +39,7 @@ struct FormView::Native {
   void Hide();
   void RunModal(HWND owner);
   void EndModal();
-  // False while a box, a dialog or a modal window waits for the user.
+  // False while a box, a dialog or a modal window waits for the user, and within a long step.
   bool TakesInput() const;
   void ShowTitle();
   void ShowMenu();
