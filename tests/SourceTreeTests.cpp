@@ -13,13 +13,12 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "tests/ProjectFile.h"
 #include "tests/Texts.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-const fs::path Root = SK2_SOURCE_DIR;
 
 struct SourceFile {
   std::string path;                 // from the root of the tree, with "/"
@@ -27,13 +26,8 @@ struct SourceFile {
   std::vector<std::string> system;  // <...>
 };
 
-std::string TextOf(const std::string& path) {
-  std::ifstream stream(Root / path);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 SourceFile Read(const fs::path& path) {
-  SourceFile file{fs::relative(path, Root).generic_string(), {}, {}};
+  SourceFile file{fs::relative(path, ProjectFile::Root).generic_string(), {}, {}};
   std::ifstream stream(path);
   for (std::string line; std::getline(stream, line);) {
     std::istringstream words(line);
@@ -54,9 +48,9 @@ SourceFile Read(const fs::path& path) {
 const std::vector<SourceFile>& AllFiles() {
   static const std::vector<SourceFile> files = [] {
     std::vector<SourceFile> all;
-    for (const char* folder : {"src", "orec", "tests", "e2e", "bench", "fuzz", "languages"}) {
-      if (!fs::exists(Root / folder)) continue;
-      for (const auto& entry : fs::recursive_directory_iterator(Root / folder)) {
+    for (const char* folder : {"src", "tests", "e2e", "bench", "fuzz", "languages"}) {
+      if (!fs::exists(ProjectFile::Root / folder)) continue;
+      for (const auto& entry : fs::recursive_directory_iterator(ProjectFile::Root / folder)) {
         const std::string extension = entry.path().extension().string();
         if (extension == ".h" || extension == ".cpp") all.push_back(Read(entry.path()));
       }
@@ -191,8 +185,8 @@ TEST(SourceTree, OnlyTheRealMachineKnowsWindowsHeaders) {
            !IsIn(name, "gtest") && !IsIn(name, "gmock");
   };
   for (const SourceFile& file : AllFiles()) {
-    if (IsIn(file.path, "src/platform/win32") || IsIn(file.path, "orec") ||
-        IsIn(file.path, "e2e") || Texts::Contains(file.path, "/RealMachine")) {
+    if (IsIn(file.path, "src/platform/win32") || IsIn(file.path, "e2e") ||
+        Texts::Contains(file.path, "/RealMachine")) {
       continue;
     }
     for (const std::string& name : file.system) {
@@ -217,7 +211,7 @@ TEST(SourceTree, TheProgramKnowsItsMachineByTheSharedHeadersAlone) {
 TEST(SourceTree, NoConditionOnTheMachineStandsOutsideOfIt) {
   for (const SourceFile& file : AllFiles()) {
     if (!IsIn(file.path, "src") || IsIn(file.path, "src/platform/win32")) continue;
-    EXPECT_FALSE(Texts::Contains(TextOf(file.path), "_WIN32")) << file.path;
+    EXPECT_FALSE(Texts::Contains(ProjectFile::BytesOf(file.path), "_WIN32")) << file.path;
   }
 }
 
@@ -238,7 +232,7 @@ TEST(SourceTree, NoHeaderIsCalledLikeOneOfTheSystem) {
 TEST(SourceTree, EveryHeaderIsGuarded) {
   for (const SourceFile& file : AllFiles()) {
     if (!file.path.ends_with(".h")) continue;
-    EXPECT_TRUE(Texts::Contains(TextOf(file.path), "#pragma once")) << file.path;
+    EXPECT_TRUE(Texts::Contains(ProjectFile::BytesOf(file.path), "#pragma once")) << file.path;
   }
 }
 
@@ -249,10 +243,10 @@ TEST(SourceTree, EveryTableOfTextsIsListedForTheTranslators) {
   int tables = 0;
   for (const SourceFile& file : AllFiles()) {
     if (!IsIn(file.path, "src")) continue;
-    const std::string text = TextOf(file.path);
+    const std::string text = ProjectFile::BytesOf(file.path);
     for (std::sregex_iterator found(text.begin(), text.end(), table), end; found != end; ++found) {
       const std::string name = (*found)[1];
-      EXPECT_TRUE(Texts::Contains(TextOf(list), "  add(" + name + ");")) << name;
+      EXPECT_TRUE(Texts::Contains(ProjectFile::BytesOf(list), "  add(" + name + ");")) << name;
       ++tables;
     }
   }
@@ -263,7 +257,7 @@ TEST(SourceTree, EveryTableOfTextsIsListedForTheTranslators) {
 TEST(SourceTree, TheRealMachineHasNoColoursOfItsOwn) {
   for (const SourceFile& file : AllFiles()) {
     if (!IsIn(file.path, "src/platform/win32")) continue;
-    const std::string text = TextOf(file.path);
+    const std::string text = ProjectFile::BytesOf(file.path);
     for (const char* colour : {"RGB(", "WM_CTLCOLOR", "CreateSolidBrush", "SetTextColor",
                                "SetBkColor", "NM_CUSTOMDRAW", "_OWNERDRAW"}) {
       EXPECT_FALSE(Texts::Contains(text, colour)) << file.path << " has " << colour;
@@ -275,7 +269,7 @@ TEST(SourceTree, TheRealMachineHasNoColoursOfItsOwn) {
 TEST(SourceTree, TheProgramTakesNothingFromOthers) {
   int files = 0;
   const auto expectNone = [&](const std::string& path) {
-    const std::string text = TextOf(path);
+    const std::string text = ProjectFile::BytesOf(path);
     EXPECT_NE(text, "") << path;
     ++files;
     for (const char* taken : {"TOPMOST", "RegisterHotKey", "SetWindowsHook", "SetForegroundWindow",
@@ -284,7 +278,7 @@ TEST(SourceTree, TheProgramTakesNothingFromOthers) {
     }
   };
   for (const SourceFile& file : AllFiles()) {
-    if (IsIn(file.path, "src") || IsIn(file.path, "orec")) expectNone(file.path);
+    if (IsIn(file.path, "src")) expectNone(file.path);
   }
   expectNone("resources/sk2pack.manifest");
   EXPECT_GT(files, 50);
@@ -293,13 +287,13 @@ TEST(SourceTree, TheProgramTakesNothingFromOthers) {
 // The rules of accessibility are checked in the windows that the tests of the program can open.
 TEST(SourceTree, EveryWindowIsOneThatTheTestsOfTheProgramOpen) {
   const std::set<std::string> others = {"Chooser", "SK2UtilityPack"};  // a base, the main window
-  const std::string openings = TextOf("e2e/Openings.cpp");
+  const std::string openings = ProjectFile::BytesOf("e2e/Openings.cpp");
   const std::regex window(
       "class (\\w+) (?:final )?: public (?:Platform::)?(?:Form|Chooser|InputBox)\\b");
   std::set<std::string> windows;
   for (const SourceFile& file : AllFiles()) {
     if (!IsIn(file.path, "src") || IsIn(file.path, "src/platform")) continue;
-    const std::string text = TextOf(file.path);
+    const std::string text = ProjectFile::BytesOf(file.path);
     for (std::sregex_iterator found(text.begin(), text.end(), window), end; found != end; ++found) {
       windows.insert((*found)[1]);
     }

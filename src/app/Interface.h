@@ -1,4 +1,5 @@
-// The actions that the menus, their shortcuts and the choosers run. Those of a tool only call it.
+// The actions that the menus, their shortcuts and the choosers run. Each only calls the tool of its
+// name, and fails as that does.
 #pragma once
 
 namespace Interface {

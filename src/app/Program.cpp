@@ -27,7 +27,7 @@ std::string VersionSuffix(const Platform::ProgramVersion& version) {
 }
 
 std::string Title(const Platform::ProgramVersion& version) {
-  std::string title = "Skidrun2 Utility Pack" + VersionSuffix(version);
+  std::string title = Name + VersionSuffix(version);
   const size_t tag = version.fileDescription.find("RC");
   if (StatusOf(version) == ReleaseStatus::Release && tag != std::string::npos) {
     title += version.fileDescription.substr(tag);

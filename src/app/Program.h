@@ -9,6 +9,8 @@ namespace Program {
 
 enum class ReleaseStatus { Alpha = -1, Release = 0, Beta = 1 };
 
+inline constexpr const char* Name = "Skidrun2 Utility Pack";
+
 // Alpha below version 0.1, beta below version 1, a release from there on.
 ReleaseStatus StatusOf(const Platform::ProgramVersion& version);
 

@@ -30,7 +30,7 @@ constexpr const char* CtrlP = " (CTRL+P)";
 }  // namespace
 
 SK2UtilityPack::SK2UtilityPack()
-    : Form(FixedText("Skidrun2 Utility Pack")),
+    : Form(FixedText(Program::Name)),
       XFile(*this, {.text = AppTexts.XFile}),
       FClose(XFile, {.text = AppTexts.FClose, .suffix = " (Alt+F4)"}),
       XVehicles(*this, {.text = AppTexts.XVehicle}),

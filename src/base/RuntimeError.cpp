@@ -1,5 +1,7 @@
 #include "base/RuntimeError.h"
 
+#include <new>
+
 namespace {
 
 LangText UsualCause(RuntimeError::Number number) {
@@ -26,3 +28,9 @@ RuntimeError::RuntimeError(Number number, const std::string& file)
 
 RuntimeError::RuntimeError(Number number, const LangText& cause, const std::string& file)
     : std::runtime_error(cause.english), number_(number), cause_(cause), file_(file) {}
+
+const LangText& CauseOf(const std::exception& error) {
+  if (const auto* failure = dynamic_cast<const RuntimeError*>(&error)) return failure->cause();
+  if (dynamic_cast<const std::bad_alloc*>(&error)) return RuntimeErrorTexts.OutOfMemory;
+  return RuntimeErrorTexts.Unexpected;
+}

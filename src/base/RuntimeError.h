@@ -2,6 +2,7 @@
 // action.
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -41,3 +42,7 @@ class RuntimeError : public std::runtime_error {
   LangText cause_;
   std::string file_;
 };
+
+// What happened, for any exception: words of its own for a RuntimeError and for memory that has run
+// out, otherwise that it was not expected.
+const LangText& CauseOf(const std::exception& error);

@@ -20,8 +20,7 @@ class FormView {
 
   // Shows the window, active and with the focus on the form's focused control; a window without
   // controls has the focus itself. The first time it opens over another window, on the screen of
-  // that one; null if there is none. Fails with RuntimeError DeviceError if the system cannot show
-  // it.
+  // that one; null if there is none. Fails when memory has run out.
   void Show(FormView* over);
   void Hide();
 

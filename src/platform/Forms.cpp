@@ -288,8 +288,8 @@ void TellFailure() noexcept {
     throw;
   } catch (const RuntimeError& error) {
     ReportSafely(error.cause(), error.file());
-  } catch (const std::bad_alloc&) {
-    ReportSafely(RuntimeErrorTexts.OutOfMemory);
+  } catch (const std::exception& error) {
+    ReportSafely(CauseOf(error));
   } catch (...) {
     ReportSafely(RuntimeErrorTexts.Unexpected);
   }

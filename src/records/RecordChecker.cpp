@@ -43,10 +43,8 @@ int64_t CheckRecordFile(const std::string& path, std::string& message) {
   }
   try {
     return CheckLines(path, message);
-  } catch (const RuntimeError& error) {
-    message = Platform::FailureText(error.cause(), path);
-  } catch (const std::exception&) {
-    message = Platform::FailureText(RuntimeErrorTexts.OutOfMemory, path);
+  } catch (const std::exception& error) {
+    message = Platform::FailureText(CauseOf(error), path);
+    return UnreadableRecordFile;
   }
-  return UnreadableRecordFile;
 }

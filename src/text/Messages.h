@@ -6,6 +6,8 @@
 
 namespace Messages {
 
+// Tells something, with the button OK. As in Ask, the text is looked up before the title: in that
+// order the two get into a language file that lacks them.
 void Show(const LangText& text, const LangText& title, Platform::Icon icon);
 
 // Asks a question with the buttons Yes and No. True for Yes.

@@ -1,5 +1,4 @@
-// The track that the user is working on. It lives for the whole run and is shared by the editor,
-// the recorder of descriptions and the packager.
+// The track that the user is working on. It lives for the whole run, whatever windows come and go.
 #pragma once
 
 #include <string>

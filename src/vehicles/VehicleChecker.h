@@ -25,5 +25,5 @@ inline constexpr int32_t Unreadable = -3;
 //
 // Variables that are missing, occur twice or stand in another order are no fault. What follows a
 // second "=" in a line is ignored. An empty sound name stands for the folder itself, which exists.
-// The internal sounds car5 and car6, which the editor offers, are taken for file names here.
+// The internal sounds car5 and car6 are taken for file names here.
 int32_t CheckVehicleFile(const std::string& path, int32_t& code, std::string& message);

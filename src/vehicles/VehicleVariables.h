@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-// Their order is that of the lines of a written file and of the rows of the vehicle editor.
+// Their order is that of the lines of a file that the game's own tools write.
 enum class VehicleVariable {
   EngineSound,
   ThrottleSound,

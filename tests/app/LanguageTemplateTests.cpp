@@ -2,9 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
-#include <sstream>
-
+#include "tests/ProjectFile.h"
 #include "tests/Story.h"
 #include "tests/Texts.h"
 #include "text/StringTable.h"
@@ -21,10 +19,8 @@ TEST_F(LanguageTemplateStory, IsTheFileThatLookingUpAllTextsMakes) {
 }
 
 TEST_F(LanguageTemplateStory, IsWhatTranslatorsGet) {
-  std::ifstream file(SK2_SOURCE_DIR "/languages/template.lng", std::ios::binary);
-  std::ostringstream bytes;
-  bytes << file.rdbuf();
-  EXPECT_EQ(bytes.str(), LanguageTemplate()) << "build the target 'template'";
+  EXPECT_EQ(ProjectFile::BytesOf("languages/template.lng"), LanguageTemplate())
+      << "build the target 'template'";
 }
 
 TEST_F(LanguageTemplateStory, GivesEveryTextItsDefaultBack) {

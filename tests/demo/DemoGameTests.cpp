@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "records/RecordChecker.h"
 #include "records/RecordFile.h"
+#include "tests/ProjectFile.h"
 #include "tests/Story.h"
 #include "tracks/TrackChecker.h"
 #include "vehicles/VehicleChecker.h"
@@ -16,7 +17,7 @@ namespace fs = std::filesystem;
 using testing::SizeIs;
 
 const std::string Game = "C:\\Games\\Skidrun2";
-const fs::path Demo = fs::path(SK2_SOURCE_DIR) / "demo";
+const fs::path Demo = ProjectFile::Root / "demo";
 
 class DemoGame : public Story {
  protected:

@@ -2,27 +2,21 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 #include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "app/LanguageTemplate.h"
+#include "tests/ProjectFile.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path HelpFolder = fs::path(SK2_SOURCE_DIR) / "help";
+using ProjectFile::BytesOf;
 
-std::string Contents(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << file.rdbuf();
-  return bytes.str();
-}
+const fs::path HelpFolder = ProjectFile::Root / "help";
 
 // The first group of every match, in order.
 std::vector<std::string> Matches(const std::string& text, const char* pattern) {
@@ -43,19 +37,19 @@ std::set<std::string> Pages() {
 }
 
 TEST(HelpPages, EachIsInTheHelpFileOnce) {
-  const std::string project = Contents(HelpFolder / "sk2pack.hhp");
+  const std::string project = BytesOf(HelpFolder / "sk2pack.hhp");
   const auto listed = Matches(project.substr(project.find("[FILES]")), "([^\\n]+\\.html)");
   EXPECT_THAT(listed, testing::UnorderedElementsAreArray(Pages()));
 }
 
 TEST(HelpPages, EachIsInTheContentsUnderItsTitle) {
-  const std::string contents = Contents(HelpFolder / "contents.hhc");
+  const std::string contents = BytesOf(HelpFolder / "contents.hhc");
   const auto titles = Matches(contents, "name=\"Name\" value=\"([^\"]*)\"");
   const auto files = Matches(contents, "name=\"Local\" value=\"([^\"]*)\"");
   EXPECT_THAT(files, testing::UnorderedElementsAreArray(Pages()));
   ASSERT_EQ(titles.size(), files.size());
   for (size_t i = 0; i < files.size(); ++i) {
-    const std::string page = Contents(HelpFolder / files[i]);
+    const std::string page = BytesOf(HelpFolder / files[i]);
     EXPECT_THAT(Matches(page, "<title>([^<]*)</title>"), testing::ElementsAre(titles[i]));
     EXPECT_THAT(Matches(page, "<h1>([^<]*)</h1>"), testing::ElementsAre(titles[i]));
   }
@@ -66,7 +60,7 @@ TEST(HelpPages, LinksLeadToPages) {
   ASSERT_FALSE(pages.empty());
   std::set<std::string> reached;
   for (const std::string& page : pages) {
-    for (const std::string& link : Matches(Contents(HelpFolder / page), "href=\"([^\"]*)\"")) {
+    for (const std::string& link : Matches(BytesOf(HelpFolder / page), "href=\"([^\"]*)\"")) {
       EXPECT_TRUE(pages.contains(link)) << link << " in " << page;
       reached.insert(link);
     }
@@ -77,8 +71,7 @@ TEST(HelpPages, LinksLeadToPages) {
 
 TEST(HelpPages, SayWhichLanguageTheyAreIn) {
   for (const std::string& page : Pages()) {
-    EXPECT_TRUE(Contents(HelpFolder / page).find("<html lang=\"en\">") != std::string::npos)
-        << page;
+    EXPECT_TRUE(BytesOf(HelpFolder / page).find("<html lang=\"en\">") != std::string::npos) << page;
   }
 }
 
@@ -92,7 +85,7 @@ TEST(HelpPages, NameOnlyWhatTheProgramShows) {
   }
   size_t count = 0;
   for (const std::string& page : Pages()) {
-    for (const std::string& name : Matches(Contents(HelpFolder / page), "<b>([^<]*)</b>")) {
+    for (const std::string& name : Matches(BytesOf(HelpFolder / page), "<b>([^<]*)</b>")) {
       EXPECT_TRUE(shown.contains(name)) << name << " in " << page;
       ++count;
     }

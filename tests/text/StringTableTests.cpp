@@ -181,7 +181,9 @@ TEST_F(StringTableStory, AFileThatIsTooLargeForALanguageFileIsNotReadAndNotAppen
   std::string text;
   const auto growth = PeakMemory::Of([&] { text = Look("XFile", "&File"); });
   EXPECT_EQ(text, "&File");
-  EXPECT_LT(growth.value_or(0), Limit);
+  if (growth) {
+    EXPECT_LT(*growth, Limit);
+  }
   EXPECT_EQ(machine.files.Find(LanguageFile)->hostPath, large.path()) << "it was not written";
   FileHolds("XFile=Datei\r\n");
   EXPECT_EQ(Look("XFile", "&File"), "Datei");

@@ -55,6 +55,12 @@ TEST_F(TrackChecker, ATrackOfTwoPartsPasses) {
   EXPECT_EQ(Check({"0", "0", "12000", "5", "1", "7000", "-1", "1"}), Passed(8, 2));
 }
 
+TEST_F(TrackChecker, LfAloneEndsNoLine) {
+  const Verdict found = CheckBytes("0\n0\n5000\n-1\n0\n");
+  EXPECT_EQ(found.result, 1);
+  EXPECT_EQ(found.code, TrackFault::CurveNotNumeric);
+}
+
 TEST_F(TrackChecker, TheSuccessTextCountsLinesAndPartsWithoutMindingOne) {
   EXPECT_EQ(Check({"0", "0", "5000", "-1", "0"}), Passed(5, 1));
 }

@@ -1,8 +1,8 @@
 #include "platform/FormView.h"
 
+#include <new>
 #include <utility>
 
-#include "base/RuntimeError.h"
 #include "platform/simulated/Machine.h"
 #include "platform/simulated/Window.h"
 
@@ -36,7 +36,7 @@ FormView::~FormView() {
 }
 
 void FormView::Show(FormView*) {
-  if (Simulated::TheMachine().screen.refusesWindows) throw RuntimeError(RuntimeError::DeviceError);
+  if (Simulated::TheMachine().screen.refusesWindows) throw std::bad_alloc();
   native_->isShown = true;
   native_->Check();
 }

@@ -10,6 +10,8 @@ namespace Platform {
 
 namespace {
 
+constexpr WORD VersionType = 16;  // RT_VERSION
+
 std::wstring WidePath() {
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
@@ -34,6 +36,17 @@ std::string Path() {
   if (length == 0 || length >= shortPath.size()) return narrow;
   shortPath.resize(length);
   return Narrow(shortPath);
+}
+
+// Of the program in memory, so that it is there even when the file is out of reach, as on a stick
+// that was pulled out. A copy: the queries may write into it. Empty if there is none.
+std::vector<char> VersionResource() {
+  const HRSRC place =
+      FindResourceW(nullptr, MAKEINTRESOURCEW(VS_VERSION_INFO), MAKEINTRESOURCEW(VersionType));
+  const HGLOBAL loaded = place ? LoadResource(nullptr, place) : nullptr;
+  const auto* bytes = loaded ? static_cast<const char*>(LockResource(loaded)) : nullptr;
+  if (!bytes) return {};
+  return {bytes, bytes + SizeofResource(nullptr, place)};
 }
 
 // One text of a version resource, in the first language that the resource lists.
@@ -70,12 +83,8 @@ std::string ExecutableName() {
 }
 
 ProgramVersion ReadProgramVersion() {
-  const std::wstring path = WidePath();
-  DWORD ignored = 0;
-  const DWORD size = GetFileVersionInfoSizeW(path.c_str(), &ignored);
-  std::vector<char> resource(size);
-  if (size == 0 || !GetFileVersionInfoW(path.c_str(), 0, size, resource.data())) return {};
-
+  const std::vector<char> resource = VersionResource();
+  if (resource.empty()) return {};
   ProgramVersion version;
   VS_FIXEDFILEINFO* numbers = nullptr;
   UINT length = 0;

@@ -14,6 +14,9 @@
 
 namespace Platform {
 
+static_assert(SoundBufferFlags ==
+              (DSBCAPS_CTRLFREQUENCY | DSBCAPS_CTRLPAN | DSBCAPS_CTRLVOLUME | DSBCAPS_GLOBALFOCUS));
+
 namespace {
 
 struct SoundDevice {

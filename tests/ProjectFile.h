@@ -1,0 +1,20 @@
+// The project's own files, for tests of what they say.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace ProjectFile {
+
+inline const std::filesystem::path Root = SK2_SOURCE_DIR;
+
+// All bytes of a file; empty if there is none.
+//   path  from the root of the project, such as "help/index.html".
+inline std::string BytesOf(const std::filesystem::path& path) {
+  std::ifstream file(Root / path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace ProjectFile
