@@ -19,9 +19,9 @@ build_suite host sk2tests
 build_suite windows
 build_suite fuzz
 build_suite bench
-check_suite "code layout" cmake --build --preset host --target check-format
-check_suite "what clang-tidy finds" cmake --build --preset host --target check-tidy
-check_suite "what clang-tidy finds in the real machine" \
+lint_suite "code layout" clang-format cmake --build --preset host --target check-format
+lint_suite "what clang-tidy finds" clang-tidy cmake --build --preset host --target check-tidy
+lint_suite "what clang-tidy finds in the real machine" clang-tidy \
   cmake --build --preset windows --target check-tidy
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
 each_program fuzz_suite out/fuzz/fuzz 'fuzz-*'

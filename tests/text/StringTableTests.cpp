@@ -163,6 +163,13 @@ TEST_F(StringTableStory, AFileThatCannotBeMadeStopsNothing) {
   EXPECT_FALSE(machine.files.Exists(LanguageFile));
 }
 
+TEST_F(StringTableStory, AProgramFolderThatTakesNoNewFilesStopsNothing) {
+  machine.files.RefuseNewFiles("C:\\Program Files\\SK2Pack");
+  EXPECT_EQ(Look("XFile", "&File"), "&File");
+  EXPECT_EQ(Look("FClose", "&Close"), "&Close");
+  EXPECT_FALSE(machine.files.Exists(LanguageFile));
+}
+
 TEST_F(StringTableStory, AnEntryThatWasRefusedIsTriedAgainAtTheNextLookup) {
   FileHolds("XFile=Datei\r\n");
   machine.files.Hold(LanguageFile);
