@@ -1,5 +1,6 @@
 // The language file beside the program.
 #include "e2e/driver/PackTest.h"
+#include "e2e/driver/RefusingFolder.h"
 
 namespace E2e {
 namespace {
@@ -92,6 +93,22 @@ TEST_F(LanguageFile, FolderInItsPlaceLeavesTheTextsEnglish) {
   EXPECT_EQ(pack.AnswerBox(), Information("Check complete", "Score file checked with no errors."));
   pack.WaitForMain();
   EXPECT_THAT(NamesIn(file), testing::IsEmpty());
+}
+
+TEST_F(LanguageFile, FolderThatRefusesFilesLeavesTheTextsEnglish) {
+  const RefusingFolder folder(Given().pack);
+  if (!folder.refuses()) GTEST_SKIP() << "no folder refuses files on this machine";
+  const std::vector<std::string> before = NamesIn(folder.path());
+  ASSERT_THAT(before, testing::Not(testing::Contains("sk2pack.lng")));
+  Pack pack(folder.path() + "\\sk2pack.exe");
+  EXPECT_EQ(ReadMenu(pack.WaitForMain()).at(0).caption, "&File");
+  pack.ChooseMenu({"Game", "Check Record File"});
+  EXPECT_EQ(pack.AnswerBox(), Information("Check complete", "Score file checked with no errors."));
+  pack.WaitForMain();
+  EXPECT_EQ(TopWindows(pack.program().processId()).size(), 1U);
+  pack.Press("Alt+F4");
+  EXPECT_EQ(pack.program().WaitForEnd(), 0U);
+  EXPECT_EQ(NamesIn(folder.path()), before);
 }
 
 TEST_F(LanguageFile, WriteProtectedFileIsReadAndLeftAsItIs) {
