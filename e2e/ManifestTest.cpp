@@ -13,10 +13,9 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-// The manifest in a program, as it stands there; empty if there is none.
+// The manifest in a program, as it stands there. Fails if there is none.
 std::string ManifestOf(const std::string& path) {
   const HMODULE program = LoadLibraryExA(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-  if (!program) return "";
   std::string manifest;
   if (const HRSRC found = FindResourceA(program, MAKEINTRESOURCEA(1), RT_MANIFEST)) {
     const HGLOBAL resource = LoadResource(program, found);
@@ -24,6 +23,7 @@ std::string ManifestOf(const std::string& path) {
                     SizeofResource(program, found));
   }
   FreeLibrary(program);
+  EXPECT_NE(manifest, "") << path;
   return manifest;
 }
 
