@@ -49,19 +49,24 @@ uint32_t MainColourOf(const Window& window) {
   return most == counts.end() ? 0x123456 : most->first;
 }
 
+// What is drawn comes to the screen a moment later.
+void ExpectBlack(const Window& window, const std::string& what) {
+  EXPECT_TRUE(ComesTrue([&] { return MainColourOf(window) == Black; })) << what;
+}
+
 using Colours = PackTest;
 
 TEST_F(Colours, AreThoseOfTheUserInEveryWindow) {
   const HighContrast colours;
   Pack& pack = StartPack();
-  EXPECT_EQ(MainColourOf(pack.WaitForMain()), Black);
+  ExpectBlack(pack.WaitForMain(), "the main window");
   for (const Opening& opening : Openings()) {
     opening.open(pack);
     const Window window = pack.WaitForWindow(opening.title);
-    EXPECT_EQ(MainColourOf(window), Black) << opening.form;
+    ExpectBlack(window, opening.form);
     for (const Window& child : window.children()) {
       if (child.IsClass("Button")) continue;  // drawn in the colours of the user's theme
-      EXPECT_EQ(MainColourOf(child), Black) << child.name() << " in " << opening.form;
+      ExpectBlack(child, child.name() + " in " + opening.form);
     }
     pack.Press("Escape");
     opening.leave(pack);

@@ -1,6 +1,9 @@
 #include "e2e/driver/Boxes.h"
 
+#include <algorithm>
+
 #include "e2e/driver/Picture.h"
+#include "e2e/driver/Wait.h"
 
 namespace E2e {
 namespace {
@@ -9,8 +12,19 @@ bool IsIcon(const Window& control) {
   return control.IsClass("Static") && (control.style() & SS_TYPEMASK) == SS_ICON;
 }
 
+// What is drawn comes to the screen a moment later.
+Picture WaitForPicture(const RECT& rectangle) {
+  Picture seen;
+  ComesTrue([&] {
+    seen = TakePicture(rectangle);
+    return std::any_of(seen.pixels.begin(), seen.pixels.end(),
+                       [&](uint32_t pixel) { return pixel != seen.pixels.front(); });
+  });
+  return seen;
+}
+
 BoxIcon IconIn(const Window& control) {
-  const Picture seen = TakePicture(control.rectangle());
+  const Picture seen = WaitForPicture(control.rectangle());
   if (seen.pixels.empty()) return BoxIcon::None;
   const uint32_t background = seen.pixels.front();
   const std::pair<const char*, BoxIcon> icons[] = {{IDI_INFORMATION, BoxIcon::Information},

@@ -35,9 +35,11 @@ Window Pack::WaitInFront(const std::string& what, const std::function<bool(const
     if (!program_.IsRunning()) throw std::runtime_error("the pack ended instead of: " + what);
     const Window front(GetForegroundWindow());
     if (!front.Exists() || !IsInFront(front) || !isIt(front)) return std::nullopt;
+    front.WaitUntilDrawn();
+    // The keys that were pressed before may have closed it, or opened another one.
+    if (!IsInFront(front) || !isIt(front)) return std::nullopt;
     return front;
   });
-  found.WaitUntilDrawn();
   Meet(found);
   return found;
 }

@@ -133,7 +133,10 @@ void Window::WaitUntilDrawn() const {
   const auto isDrawn = [](HWND window) {
     return !IsWindowVisible(window) || !GetUpdateRect(window, nullptr, FALSE);
   };
+  // Drawing comes last: when this is drawn, all that was to be done before it has been.
+  InvalidateRect(handle_, nullptr, FALSE);
   WaitUntil("\"" + text() + "\" completely drawn", [&] {
+    if (!IsVisible()) return true;
     if (!Ask(WM_NULL) || !isDrawn(handle_)) return false;
     for (const Window& child : children()) {
       if (!isDrawn(child.handle())) return false;

@@ -50,7 +50,8 @@ class Window {
   // The control with the focus in this window's thread.
   std::optional<Window> focus() const;
 
-  // Waits until nothing in the window is left to be drawn.
+  // Waits until the keys that were pressed before have had their effect, its program waits for new
+  // ones, and nothing in the window is left to be drawn; or until it is gone.
   void WaitUntilDrawn() const;
   // Clicks with the mouse in its middle.
   void Click() const;
