@@ -13,6 +13,25 @@
 
 namespace E2e {
 
+namespace {
+
+// Removes a folder with all that is in it, write-protected files too. False if something is left.
+bool Remove(const std::string& folder) {
+  // A program that has just been ended may hold its own file for a moment.
+  return ComesTrue([&] {
+    // Write-protected files are not removed.
+    std::error_code failure;
+    std::filesystem::recursive_directory_iterator entry(folder, failure);
+    for (; !failure && entry != end(entry); entry.increment(failure)) {
+      SetFileAttributesW(entry->path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+    std::filesystem::remove_all(folder, failure);
+    return !failure;
+  });
+}
+
+}  // namespace
+
 Places& Given() {
   static Places places;
   return places;
@@ -24,22 +43,14 @@ ScratchFolder::ScratchFolder() {
   GetTempPathA(sizeof temporary, temporary);
   path_ = std::string(temporary) + "sk2pack-e2e-" + std::to_string(GetCurrentProcessId()) + "-" +
           std::to_string(++count);
+  // Numbers of processes are given out again: an interrupted run may have left a folder of this
+  // name.
+  EXPECT_TRUE(Remove(path_)) << path_ << " cannot be removed";
   std::filesystem::create_directories(path_);
 }
 
 ScratchFolder::~ScratchFolder() {
-  // A program that has just been ended may hold its own file for a moment.
-  const bool isRemoved = ComesTrue([this] {
-    // Write-protected files are not removed.
-    std::error_code failure;
-    std::filesystem::recursive_directory_iterator entry(path_, failure);
-    for (; !failure && entry != end(entry); entry.increment(failure)) {
-      SetFileAttributesW(entry->path().c_str(), FILE_ATTRIBUTE_NORMAL);
-    }
-    std::filesystem::remove_all(path_, failure);
-    return !failure;
-  });
-  EXPECT_TRUE(isRemoved) << path_ << " cannot be removed";
+  EXPECT_TRUE(Remove(path_)) << path_ << " cannot be removed";
 }
 
 void CopyFolder(const std::string& from, const std::string& to) {
