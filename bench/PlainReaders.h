@@ -1,6 +1,6 @@
 // The rules of the two checkers in one pass over blocks of the file, written as directly as they
-// can be: one loop over the bytes, no line ever put together. They know plain decimal numbers in
-// good files only, and say nothing but whether the file is good.
+// can be: a track byte by byte, a vehicle line by line. They know plain decimal numbers in good
+// files only, and say nothing but whether the file is good.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +8,8 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace PlainReaders {
 
@@ -60,65 +62,69 @@ inline bool IsGoodTrack(const std::string& path) {
   return isRead && position >= 5;
 }
 
+// Calls the function with each line of the file, without its end, until it returns false. A line
+// must end in CR LF or CR and be shorter than a block.
+template <class TakeLine>
+bool ReadLines(const std::string& path, TakeLine takeLine) {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                             std::fclose);
+  if (!file) return false;
+  static char block[1 << 16];
+  size_t kept = 0;  // the bytes of a line that has begun
+  bool afterCr = false;
+  while (const size_t size = std::fread(block + kept, 1, sizeof block - kept, file.get())) {
+    const char* line = block;
+    const char* const end = block + kept + size;
+    if (std::exchange(afterCr, false) && *line == '\n') ++line;
+    while (const void* found = std::memchr(line, '\r', static_cast<size_t>(end - line))) {
+      const char* const cr = static_cast<const char*>(found);
+      if (!takeLine(std::string_view(line, static_cast<size_t>(cr - line)))) return false;
+      line = cr + 1;
+      afterCr = line == end;
+      if (!afterCr && *line == '\n') ++line;
+    }
+    kept = static_cast<size_t>(end - line);
+    std::memmove(block, line, kept);
+  }
+  return kept == 0;
+}
+
+inline bool IsGoodSound(int variable, std::string_view value) {
+  if (value == "car1" || value == "car2") return true;
+  if (variable == 1) return false;
+  return value == "car3" || value == "car4" || value == "cycle1" || value == "cycle2";
+}
+
+inline bool IsGoodNumber(int variable, std::string_view value) {
+  const bool isNegative = value.starts_with('-');
+  if (isNegative) value.remove_prefix(1);
+  if (value.empty() || value.size() > 9) return false;
+  int32_t number = 0;
+  for (const char digit : value) {
+    if (digit < '0' || digit > '9') return false;
+    number = number * 10 + (digit - '0');
+  }
+  if (isNegative) number = -number;
+  if (variable == 12) return number >= 1 && number <= 100;
+  return variable != 13 || (number >= 0 && number <= 1);
+}
+
 inline bool IsGoodVehicle(const std::string& path) {
-  static const char* const names[] = {
+  static constexpr std::string_view Names[] = {
       "enginesound",   "throttlesound", "startsound",     "hornsound", "acceleration",
       "deceleration",  "skidrun",       "idlefreq",       "topfreq",   "shiftfreq",
       "numberofgears", "steering",      "steeringfactor", "haswipers"};
-  enum { Name, Value, Rest } state = Name;
-  char text[16];  // the name or value so far
-  size_t size = 0;
-  int variable = 0;
-  bool afterCr = false;
-  const auto isGoodValue = [&] {
-    const auto is = [&](const char* sound) {
-      return std::strlen(sound) == size && std::memcmp(sound, text, size) == 0;
-    };
-    if (variable < 4) {
-      if (is("car1") || is("car2")) return true;
-      return variable != 1 && (is("car3") || is("car4") || is("cycle1") || is("cycle2"));
-    }
-    const size_t first = size > 0 && text[0] == '-' ? 1 : 0;
-    if (size == first || size - first > 9) return false;
-    int32_t number = 0;
-    for (size_t i = first; i < size; ++i) {
-      const unsigned digit = static_cast<unsigned char>(text[i]) - '0';
-      if (digit > 9) return false;
-      number = number * 10 + static_cast<int32_t>(digit);
-    }
-    if (first == 1) number = -number;
-    if (variable == 12) return number >= 1 && number <= 100;
-    return variable != 13 || (number >= 0 && number <= 1);
-  };
-  return ReadBytes(path,
-                   [&](char byte) {
-                     if (byte == '\n' && afterCr) return !(afterCr = false);
-                     afterCr = false;
-                     if (byte == '\r') {
-                       if (state == Name || (state == Value && !isGoodValue())) return false;
-                       state = Name;
-                       size = 0;
-                       return afterCr = true;
-                     }
-                     if (state == Rest) return true;
-                     if (byte != '=') {
-                       if (size == sizeof text) return false;
-                       text[size++] = byte;
-                       return true;
-                     }
-                     if (state == Value) {
-                       state = Rest;
-                       return isGoodValue();
-                     }
-                     for (variable = 0; variable < 14; ++variable) {
-                       const char* const name = names[variable];
-                       if (std::strlen(name) == size && std::memcmp(name, text, size) == 0) break;
-                     }
-                     state = Value;
-                     size = 0;
-                     return variable < 14;
-                   }) &&
-         state == Name;
+  return ReadLines(path, [](std::string_view line) {
+    const size_t equals = line.find('=');
+    if (equals == std::string_view::npos) return false;
+    const std::string_view name = line.substr(0, equals);
+    std::string_view value = line.substr(equals + 1);
+    value = value.substr(0, value.find('='));
+    int variable = 0;
+    while (variable < 14 && Names[variable] != name) ++variable;
+    if (variable == 14) return false;
+    return variable < 4 ? IsGoodSound(variable, value) : IsGoodNumber(variable, value);
+  });
 }
 
 }  // namespace PlainReaders
