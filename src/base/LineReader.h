@@ -76,7 +76,8 @@ inline bool LineReader::Next(std::string_view& line) {
   const size_t length = FindCr(unread, end_ - begin_);
   // Nearly every line ends in CR LF. Adding one or two according to the next byte would do for all,
   // but each line would then wait for that byte of the line before.
-  if (length + 1 >= end_ - begin_ || length > LongestLine || unread[length + 1] != '\n') {
+  if (length + 1 >= end_ - begin_ || length > LongestLine || unread[length + 1] != '\n')
+      [[unlikely]] {
     return NextWithAnyEnd(line);
   }
   line = {unread, length};
