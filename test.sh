@@ -9,7 +9,7 @@ exec </dev/null
 . scripts/machine.sh
 . scripts/suites.sh
 
-trap leave_machine EXIT
+trap 'leave_machine; kill $(jobs -rp) 2>/dev/null || true' EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
@@ -24,8 +24,8 @@ lint_suite "what clang-tidy finds" clang-tidy cmake --build --preset host --targ
 lint_suite "what clang-tidy finds in the real machine" clang-tidy \
   cmake --build --preset windows --target check-tidy
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
-each_program fuzz_suite out/fuzz/fuzz 'fuzz-*'
-each_program bench_suite out/bench/bench 'bench-*'
+fuzz_suites out/fuzz/fuzz
+bench_suites out/bench/bench
 
 bring_up_machine() {
   enter_machine out/e2e && start_display && start_sound && start_web && start_windows &&

@@ -81,28 +81,44 @@ gtest_suite() {
   count "$name" $((passes > 0 ? passes : 0)) "$bad" "$left_out"
 }
 
-# each_program SUITE FOLDER PATTERN: runs the suite with each program there; none is a failure.
-each_program() {
-  local suite=$1 folder=$2 pattern=$3 programs program
-  mapfile -t programs < <(find "$folder" -maxdepth 1 -type f -executable -name "$pattern" | sort)
-  [ ${#programs[@]} -gt 0 ] || count "$folder/$pattern: no such program" 0 1
-  for program in "${programs[@]}"; do "$suite" "$program"; done
+# programs_in FOLDER PATTERN: puts the programs there into the array programs. None is a failure.
+programs_in() {
+  mapfile -t programs < <(find "$1" -maxdepth 1 -type f -executable -name "$2" | sort)
+  [ ${#programs[@]} -gt 0 ] || count "$1/$2: no such program" 0 1
 }
 
-# fuzz_suite PROGRAM: a short run over its seeds and what it makes of them.
-fuzz_suite() {
-  local name found
-  name=$(basename "$1")
-  # What it finds goes into the first folder, and is not kept.
-  found=$(mktemp -d)
-  check_suite "$name" "$1" -runs=20000 -max_total_time=20 "-artifact_prefix=out/logs/$name-" \
-    "$found" "fuzz/seeds/${name#fuzz-}"
-  rm -rf "$found"
+# fuzz_suites FOLDER: one test for each fuzz target there: a short run over its seeds and what it
+# makes of them. As many run at a time as there are processors.
+fuzz_suites() {
+  local programs program name processes=() i
+  programs_in "$1" 'fuzz-*'
+  for program in "${programs[@]}"; do
+    while [ "$(jobs -rp | wc -l)" -ge "$(nproc)" ]; do wait -n || true; done
+    name=$(basename "$program")
+    echo "Running $name"
+    # What it finds goes into the first folder, and is not used again.
+    rm -rf "out/found/$name"
+    mkdir -p "out/found/$name"
+    "$program" -runs=20000 -max_total_time=20 "-artifact_prefix=out/logs/$name-" \
+      "out/found/$name" "fuzz/seeds/${name#fuzz-}" >"$(log_of "$name")" 2>&1 </dev/null &
+    processes+=($!)
+  done
+  for i in "${!programs[@]}"; do
+    name=$(basename "${programs[i]}")
+    if wait "${processes[i]}"; then
+      count "$name" 1 0
+    else
+      tail -n 40 "$(log_of "$name")"
+      count "$name" 0 1
+    fi
+  done
 }
 
-# bench_suite PROGRAM: that it runs; its figures mean nothing on a busy machine.
-bench_suite() {
-  check_suite "$(basename "$1")" "$1" --brief
+# bench_suites FOLDER: that each benchmark there runs; its figures mean nothing on a busy machine.
+bench_suites() {
+  local programs program
+  programs_in "$1" 'bench-*'
+  for program in "${programs[@]}"; do check_suite "$(basename "$program")" "$program" --brief; done
 }
 
 # Prints all counts, and last their sum. Fails if any test did.
