@@ -9,29 +9,37 @@ exec </dev/null
 . scripts/machine.sh
 . scripts/suites.sh
 
-trap 'leave_machine; kill $(jobs -rp) 2>/dev/null || true' EXIT
+trap 'end_background; leave_machine' EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
 install_packages "${pack_packages[@]}" "${test_packages[@]}" "${sound_packages[@]}"
 
+begin_suites
 build_suite host sk2tests
 build_suite windows
 build_suite fuzz
 build_suite bench
-lint_suite "code layout" clang-format cmake --build --preset host --target check-format
-lint_suite "what clang-tidy finds" clang-tidy cmake --build --preset host --target check-tidy
-lint_suite "what clang-tidy finds in the real machine" clang-tidy \
-  cmake --build --preset windows --target check-tidy
+in_background fuzz_suites out/fuzz/fuzz
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
-fuzz_suites out/fuzz/fuzz
+wait_for_background
 bench_suites out/bench/bench
+
+lint_suites() {
+  lint_suite "code layout" clang-format cmake --build --preset host --target check-format
+  lint_suite "what clang-tidy finds" clang-tidy \
+    nice -n 19 cmake --build --preset host --target check-tidy
+  lint_suite "what clang-tidy finds in the real machine" clang-tidy \
+    nice -n 19 cmake --build --preset windows --target check-tidy
+}
 
 bring_up_machine() {
   enter_machine out/e2e && start_display && start_sound && start_web && start_windows &&
     use_virtual_desktop && use_own_web
 }
 
+# The tests on the real machine mostly wait for windows; this takes what they leave of the processors.
+in_background lint_suites
 if bring_up_machine; then
   gtest_suite "contracts on the real machine" wine out/windows/tests/contract-tests.exe
   rm -rf out/e2e/pictures

@@ -1,16 +1,41 @@
 # Running suites of tests and adding up what came of them. Sourced, not run.
 
-suite_lines=()
-passed=0
-failed=0
-skipped=0
+background=()
+
+# Begins with nothing counted. A file keeps the counts, so that suites may run side by side.
+begin_suites() {
+  mkdir -p out/logs
+  counts=out/logs/counts
+  : >"$counts"
+}
 
 # count NAME PASSED FAILED [SKIPPED]
 count() {
-  suite_lines+=("$(printf '%6d passed %4d failed %4d skipped  %s' "$2" "$3" "${4:-0}" "$1")")
-  passed=$((passed + $2))
-  failed=$((failed + $3))
-  skipped=$((skipped + ${4:-0}))
+  printf '%d %d %d %s\n' "$2" "$3" "${4:-0}" "$1" >>"$counts"
+}
+
+# in_background SUITE...: runs the suite beside those that follow, in a process group of its own.
+in_background() {
+  set -m
+  "$@" &
+  background+=($!)
+  set +m
+}
+
+# Waits for the suites in the background. One that was cut short has failed.
+wait_for_background() {
+  local process
+  for process in "${background[@]}"; do
+    wait "$process" || count "a suite in the background that was cut short" 0 1
+  done
+  background=()
+}
+
+# Ends the suites in the background, with all that they have started.
+end_background() {
+  local process
+  for process in "${background[@]}"; do kill -- "-$process" 2>/dev/null || true; done
+  background=()
 }
 
 log_of() {
@@ -88,29 +113,17 @@ programs_in() {
 }
 
 # fuzz_suites FOLDER: one test for each fuzz target there: a short run over its seeds and what it
-# makes of them. As many run at a time as there are processors.
+# makes of them.
 fuzz_suites() {
-  local programs program name processes=() i
+  local programs program name
   programs_in "$1" 'fuzz-*'
   for program in "${programs[@]}"; do
-    while [ "$(jobs -rp | wc -l)" -ge "$(nproc)" ]; do wait -n || true; done
     name=$(basename "$program")
-    echo "Running $name"
     # What it finds goes into the first folder, and is not used again.
     rm -rf "out/found/$name"
     mkdir -p "out/found/$name"
-    "$program" -runs=20000 -max_total_time=20 "-artifact_prefix=out/logs/$name-" \
-      "out/found/$name" "fuzz/seeds/${name#fuzz-}" >"$(log_of "$name")" 2>&1 </dev/null &
-    processes+=($!)
-  done
-  for i in "${!programs[@]}"; do
-    name=$(basename "${programs[i]}")
-    if wait "${processes[i]}"; then
-      count "$name" 1 0
-    else
-      tail -n 40 "$(log_of "$name")"
-      count "$name" 0 1
-    fi
+    check_suite "$name" "$program" -runs=20000 -max_total_time=20 \
+      "-artifact_prefix=out/logs/$name-" "out/found/$name" "fuzz/seeds/${name#fuzz-}"
   done
 }
 
@@ -121,12 +134,19 @@ bench_suites() {
   for program in "${programs[@]}"; do check_suite "$(basename "$program")" "$program" --brief; done
 }
 
-# Prints all counts, and last their sum. Fails if any test did.
+# Prints all counts once every suite has ended, and last their sum. Fails if any test did.
 report_suites() {
+  wait_for_background
   echo
-  printf '%s\n' "${suite_lines[@]}"
-  echo
-  printf '%s passed, %s failed, %s skipped, in %d min %02d s\n' "$passed" "$failed" "$skipped" \
-    $((SECONDS / 60)) $((SECONDS % 60))
-  [ "$failed" = 0 ]
+  awk -v seconds="$SECONDS" '
+    {
+      passed += $1; failed += $2; skipped += $3
+      name = $0; sub(/^[0-9]+ [0-9]+ [0-9]+ /, "", name)
+      printf "%6d passed %4d failed %4d skipped  %s\n", $1, $2, $3, name
+    }
+    END {
+      printf "\n%d passed, %d failed, %d skipped, in %d min %02d s\n", passed, failed, skipped,
+        seconds / 60, seconds % 60
+      exit failed > 0 || passed == 0
+    }' "$counts"
 }
