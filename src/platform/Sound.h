@@ -7,8 +7,8 @@ namespace Platform {
 
 class Form;
 
-// Frequency, pan and volume control, and audible while another window has the focus: the
-// flags that a sound buffer is made with.
+// Frequency, pan and volume control, and audible while another window has the focus: the flags that
+// a sound buffer is made with.
 inline constexpr uint32_t SoundBufferFlags = 0x80E0;
 
 // Opens the default sound device, shared with other programs, for the time of the run.
