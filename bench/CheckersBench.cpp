@@ -7,7 +7,7 @@
 #include "bench/Arguments.h"
 #include "bench/Contest.h"
 #include "bench/PlainReaders.h"
-#include "platform/simulated/Machine.h"
+#include "machine/simulated/Machine.h"
 #include "tests/HostFile.h"
 #include "tracks/TrackChecker.h"
 #include "vehicles/VehicleChecker.h"

@@ -9,7 +9,7 @@
 #include "base/LineReader.h"
 #include "bench/Arguments.h"
 #include "bench/Contest.h"
-#include "platform/simulated/Machine.h"
+#include "machine/simulated/Machine.h"
 #include "tracks/RandomTrackmaker.h"
 #include "tracks/TrackManager.h"
 

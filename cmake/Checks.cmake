@@ -20,7 +20,7 @@ if(RUN_CLANG_TIDY)
   set(tidy_options -quiet -extra-arg=-Wno-unknown-warning-option)
   if(WIN32)
     # The host's build has the rest.
-    string(APPEND tidied /src/platform/win32/)
+    string(APPEND tidied /src/machine/win32/)
     # clang's search for the headers of MinGW-w64 does not find those of this g++.
     list(APPEND tidy_options -extra-arg=--target=x86_64-w64-mingw32 -checks=-performance-no-int-to-ptr)
     foreach(folder ${CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES})

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/simulated/Machine.h"
+#include "machine/simulated/Machine.h"
 
 // Puts the input as a file onto the machine. Its first byte says how the user writes numbers and
 // how large the blocks are in which the file is read; "0" is a usual value.

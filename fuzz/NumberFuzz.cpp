@@ -7,8 +7,8 @@
 
 #include "base/RuntimeError.h"
 #include "fuzz/Require.h"
+#include "machine/simulated/Machine.h"
 #include "platform/Numbers.h"
-#include "platform/simulated/Machine.h"
 #include "tests/ReferenceCheck.h"
 
 namespace {

@@ -7,6 +7,7 @@
 #include "platform/Numbers.h"
 #include "records/RecordChecker.h"
 #include "records/RecordFile.h"
+#include "tests/SimulatedGame.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ int64_t FirstFault(const std::string& bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Simulated::Machine machine;
-  machine.InstallGame("C:\\Game");
+  InstallGame(machine, "C:\\Game");
   const std::string path = RecordFile::Path();
   const std::string bytes = PutFileInput(machine, path, data, size);
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "fuzz/Require.h"
-#include "platform/simulated/Machine.h"
+#include "machine/simulated/Machine.h"
 #include "text/StringTable.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/simulated/Machine.h"
+#include "machine/simulated/Machine.h"
 
 // Tells the story on a new machine each time: first with the first call failing, then with the
 // second, until it runs through with no failure. The story itself says from where on calls count,

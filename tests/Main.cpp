@@ -1,7 +1,7 @@
 // Runs the tests on the simulated machine. What the machine complains about is a failure.
 #include <gtest/gtest.h>
 
-#include "platform/simulated/Complaints.h"
+#include "machine/simulated/Complaints.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

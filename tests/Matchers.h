@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/MsgBox.h"
-#include "platform/simulated/Script.h"
+#include "machine/simulated/Script.h"
+#include "ui/MsgBox.h"
 
 namespace Platform {
 inline void PrintTo(Icon icon, std::ostream* out) {

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/simulated/Machine.h"
+#include "machine/simulated/Machine.h"
 #include "tests/Matchers.h"
 
 class Story : public testing::Test {

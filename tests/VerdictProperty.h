@@ -7,7 +7,7 @@
 #include <map>
 #include <string>
 
-#include "platform/simulated/Machine.h"
+#include "machine/simulated/Machine.h"
 #include "tests/RandomText.h"
 #include "tests/ReferenceCheck.h"
 

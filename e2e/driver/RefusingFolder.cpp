@@ -4,8 +4,8 @@
 
 #include "e2e/driver/Places.h"
 #include "e2e/driver/Wait.h"
-#include "tests/platform/RealMachine.h"
-#include "tests/platform/TestMachine.h"
+#include "tests/machine/RealMachine.h"
+#include "tests/machine/TestMachine.h"
 
 namespace E2e {
 namespace {

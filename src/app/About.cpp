@@ -4,11 +4,11 @@
 
 #include "app/Addresses.h"
 #include "app/AppTexts.h"
-#include "app/Application.h"
 #include "app/Program.h"
 #include "base/RuntimeError.h"
-#include "platform/MsgBox.h"
+#include "game/Application.h"
 #include "text/StringTable.h"
+#include "ui/MsgBox.h"
 
 namespace About {
 
@@ -32,7 +32,7 @@ void ShowAbout() {
   const Platform::ProgramVersion version = Platform::ReadProgramVersion();
   std::string text = "SK2Pack " + look(AppTexts.Information) + ":\r\n";
   text += version.productName + Program::VersionSuffix(version) + ", " +
-          look(AppTexts.ExecutableFile) + " " + Program::PathBesideProgram(".exe") + "\r\n";
+          look(AppTexts.ExecutableFile) + " " + Platform::PathBesideProgram(".exe") + "\r\n";
   text += "Skidrun2 " + look(AppTexts.Information) + ":\r\n";
   text += field(AppTexts.InstallationFoundAtLocation, GameFolderIfInstalled());
   text += field(AppTexts.Version, Application::GameVersion());

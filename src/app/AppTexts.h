@@ -49,11 +49,6 @@ struct AppTextTable {
                             "This tool is not part of this version of the pack."};
   LangText NotAvailableTitle{"NotAvailableTitle", "Notice"};
 
-  // Why most tools cannot work.
-  LangText GameNotInstalled{
-      "RTEGameNotInstalled",
-      "Skidrun2 was not found on this computer. Please install the game and try again."};
-
   // The About box.
   LangText About{"About", "About"};
   LangText Information{"Information", "information"};

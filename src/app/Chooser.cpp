@@ -29,7 +29,7 @@ void Chooser::Form_Load() {
 void Chooser::Submit_Click() {
   if (What.selected() < 0) return;
   if (whileRunning_ == MainWindow::ComesBack) {
-    Platform::MainForm().Show();
+    GoBack();
   } else {
     Leave();
   }

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/Forms.h"
+#include "ui/Forms.h"
 
 class Chooser : public Platform::Form {
  protected:

@@ -3,37 +3,24 @@
 #include "app/About.h"
 #include "app/Addresses.h"
 #include "app/AppTexts.h"
-#include "app/CheckWhat.h"
-#include "app/NewWhat.h"
-#include "app/PackageWhat.h"
-#include "base/PerRun.h"
 #include "platform/Executable.h"
 #include "platform/ShellOpen.h"
 #include "records/HighScores.h"
 #include "records/RecordManager.h"
-#include "text/Messages.h"
 #include "tracks/RandomTrackmaker.h"
 #include "tracks/TrackManager.h"
+#include "tracks/Trackmaker.h"
+#include "ui/Messages.h"
 #include "vehicles/CarManager.h"
 
 namespace Interface {
-
-void ChooseNew() {
-  PerRun<NewWhat>().Show();
-}
-void ChoosePackage() {
-  PerRun<PackageWhat>().Show();
-}
-void ChooseCheck() {
-  PerRun<CheckWhat>().Show();
-}
 
 void CheckVehicle() {
   CarManager::CheckVehicleMenu();
 }
 
 void NewTrack() {
-  TrackManager::NewTrack();
+  ::NewTrack();
 }
 void RandomTrack() {
   RandomTrackmaker::RandomTrack();

@@ -4,11 +4,6 @@
 
 namespace Interface {
 
-// The three choosers take the main window's place.
-void ChooseNew();
-void ChoosePackage();
-void ChooseCheck();
-
 void CheckVehicle();
 
 void NewTrack();

@@ -3,13 +3,14 @@
 #include <set>
 
 #include "app/AppTexts.h"
-#include "app/FileDialogTexts.h"
 #include "base/RuntimeErrorTexts.h"
 #include "base/SharedTexts.h"
+#include "game/FileDialogTexts.h"
+#include "game/GameTexts.h"
 #include "internet/InternetTexts.h"
+#include "language/LanguageTexts.h"
 #include "packaging/PackagingTexts.h"
 #include "records/RecordTexts.h"
-#include "text/LanguageTexts.h"
 #include "tracks/TrackTexts.h"
 #include "update/UpdateTexts.h"
 #include "vehicles/VehicleTexts.h"
@@ -21,6 +22,7 @@ std::vector<LangText> AllTexts() {
   };
   add(FileDialogTexts);
   add(AppTexts);
+  add(GameTexts);
   add(SharedTexts);
   add(LanguageTexts);
   add(VehicleTexts);

@@ -1,7 +1,7 @@
 // The program: it starts, handles events until its main window closes, and cleans up.
 #include "app/Start.h"
 #include "base/PerRun.h"
-#include "platform/FormView.h"
+#include "ui/FormView.h"
 
 int main() {
   StartPack();

@@ -35,12 +35,4 @@ std::string Title(const Platform::ProgramVersion& version) {
   return title;
 }
 
-std::string PathBesideProgram(const std::string& ending) {
-  return Platform::ProgramFolder() + "\\" + Platform::ExecutableName() + ending;
-}
-
-std::string UpdaterPath() {
-  return Platform::ProgramFolder() + "\\orv" + Platform::ExecutableName() + "updater.exe";
-}
-
 }  // namespace Program

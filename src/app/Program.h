@@ -1,4 +1,4 @@
-// The pack itself: its version, its title, and the files that lie beside it.
+// The pack itself: its version and its title.
 #pragma once
 
 #include <string>
@@ -21,13 +21,5 @@ std::string VersionSuffix(const Platform::ProgramVersion& version);
 // The main window's title: the pack's name and the version suffix, and for a release the release
 // candidate tag, from "RC" to the end of the executable's file description, if it has one.
 std::string Title(const Platform::ProgramVersion& version);
-
-// The path of a file in the program folder that bears the executable's name: the program folder,
-// "\", the executable's name and the given ending, such as ".lng".
-std::string PathBesideProgram(const std::string& ending);
-
-// Where an update's installer is stored for its run: "orv", the executable's name and
-// "updater.exe" in the program folder, with nothing between the three.
-std::string UpdaterPath();
 
 }  // namespace Program

@@ -4,12 +4,16 @@
 #include <functional>
 
 #include "app/AppTexts.h"
-#include "app/FileDialogs.h"
+#include "app/CheckWhat.h"
 #include "app/Interface.h"
+#include "app/NewWhat.h"
+#include "app/PackageWhat.h"
 #include "app/Program.h"
-#include "platform/Files.h"
+#include "base/PerRun.h"
+#include "game/FileDialogs.h"
 #include "platform/NamedMutex.h"
 #include "platform/Sound.h"
+#include "update/Updater.h"
 
 namespace {
 
@@ -76,7 +80,7 @@ SK2UtilityPack::SK2UtilityPack()
 }
 
 void SK2UtilityPack::Form_Load() {
-  Try([] { Platform::RemoveFile(Program::UpdaterPath()); });
+  Try([] { Updater::RemoveLeftOverUpdater(); });
   Try([this] { SetTitle(Program::Title(Platform::ReadProgramVersion())); });
   Try([] { Platform::HoldNamedMutex("ORVSK2Pack"); });
   Try([this] { Platform::OpenSoundDevice(*this); });
@@ -88,9 +92,9 @@ void SK2UtilityPack::Form_KeyDown(Platform::KeyEvent& key) {
   if (key.shift != Platform::Shift::Ctrl) return;
   key.isHandled = true;
   switch (key.code) {
-    case 'N': return Interface::ChooseNew();
-    case 'P': return Interface::ChoosePackage();
-    case 'C': return Interface::ChooseCheck();
+    case 'N': return PerRun<NewWhat>().Show();
+    case 'P': return PerRun<PackageWhat>().Show();
+    case 'C': return PerRun<CheckWhat>().Show();
     default: key.isHandled = false;
   }
 }

@@ -1,7 +1,7 @@
 // The main window: a menu bar, and the start and the end of the program.
 #pragma once
 
-#include "platform/Forms.h"
+#include "ui/Forms.h"
 
 class SK2UtilityPack final : public Platform::Form {
  public:

@@ -2,10 +2,8 @@
 
 #include "app/SK2UtilityPack.h"
 #include "base/PerRun.h"
-#include "platform/Translation.h"
-#include "text/StringTable.h"
+#include "ui/Forms.h"
 
 void StartPack() {
-  Platform::SetTranslator([](const LangText& text) { return GetLangString(text); });
   Platform::StartProgram(PerRun<SK2UtilityPack>());
 }

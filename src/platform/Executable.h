@@ -11,6 +11,10 @@ std::string ProgramFolder();
 // The executable's name without folder and extension, such as "sk2pack".
 std::string ExecutableName();
 
+// The path of a file in the program folder that bears the executable's name: the program folder,
+// "\", the executable's name and the given ending, such as ".lng".
+std::string PathBesideProgram(const std::string& ending);
+
 struct ProgramVersion {
   int major = 0;
   int minor = 0;

@@ -4,7 +4,7 @@
 
 #include "base/PerRun.h"
 #include "records/RecordFile.h"
-#include "text/Messages.h"
+#include "ui/Messages.h"
 
 HighScores::HighScores() : Form(RecordTexts.RecordViewerTitle) {
   Tracks.OnSelect = [this] { Tracks_Click(); };

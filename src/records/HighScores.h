@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "base/SharedTexts.h"
-#include "platform/Forms.h"
 #include "records/RecordTexts.h"
+#include "ui/Forms.h"
 
 class HighScores final : public Platform::Form {
  public:

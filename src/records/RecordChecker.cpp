@@ -6,9 +6,9 @@
 #include "base/RuntimeError.h"
 #include "platform/FileLines.h"
 #include "platform/Files.h"
-#include "platform/Forms.h"
 #include "platform/Numbers.h"
 #include "records/RecordTexts.h"
+#include "text/FailureText.h"
 #include "text/StringTable.h"
 
 namespace {
@@ -44,7 +44,7 @@ int64_t CheckRecordFile(const std::string& path, std::string& message) {
   try {
     return CheckLines(path, message);
   } catch (const std::exception& error) {
-    message = Platform::FailureText(CauseOf(error), path);
+    message = FailureText(CauseOf(error), path);
     return UnreadableRecordFile;
   }
 }

@@ -1,9 +1,9 @@
 #include "records/RecordFile.h"
 
-#include "app/Application.h"
 #include "base/LineReader.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "game/Application.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "records/TimeConverter.h"

@@ -2,15 +2,15 @@
 
 #include <string>
 
-#include "app/CheckReport.h"
 #include "base/RuntimeErrorTexts.h"
 #include "base/SharedTexts.h"
-#include "platform/MsgBox.h"
+#include "game/CheckReport.h"
 #include "records/RecordChecker.h"
 #include "records/RecordFile.h"
 #include "records/RecordTexts.h"
-#include "text/Messages.h"
 #include "text/StringTable.h"
+#include "ui/Messages.h"
+#include "ui/MsgBox.h"
 
 namespace RecordManager {
 

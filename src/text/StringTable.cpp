@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Program.h"
 #include "base/PerRun.h"
 #include "base/Text.h"
+#include "platform/Executable.h"
 #include "platform/Files.h"
 
 namespace {
@@ -26,7 +26,7 @@ class LanguageFile {
   void Append(const std::string& entry);
 
  private:
-  std::string path_ = Program::PathBesideProgram(".lng");
+  std::string path_ = Platform::PathBesideProgram(".lng");
   bool isKnown_ = false;                      // the rest is what the file holds
   std::optional<Platform::FileStamp> stamp_;  // nothing while there is no file
   std::vector<std::string> lines_;
@@ -109,5 +109,6 @@ std::string GetLangString(const std::string& key, const std::string& english, in
 }
 
 std::string GetLangString(const LangText& text) {
+  if (!text.key) return text.english;
   return GetLangString(text.key, text.english, WithComments);
 }

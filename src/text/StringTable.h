@@ -23,5 +23,6 @@ inline constexpr int WithComments = -1;
 // The file is read again only when its size or last-write time has changed since the last lookup.
 std::string GetLangString(const std::string& key, const std::string& english, int flag);
 
-// The text of a table, as all callers look it up.
+// The text of a table, as all callers look it up. A text without a key is the same in every
+// language and is given as it stands.
 std::string GetLangString(const LangText& text);

@@ -3,20 +3,20 @@
 #include <optional>
 #include <string>
 
-#include "app/FileDialogs.h"
 #include "base/SharedTexts.h"
 #include "base/Text.h"
-#include "platform/InputBox.h"
+#include "game/FileDialogs.h"
 #include "platform/LetterCase.h"
 #include "platform/LongStep.h"
 #include "platform/Numbers.h"
 #include "platform/Paths.h"
 #include "platform/RandomRange.h"
-#include "text/Messages.h"
 #include "text/StringTable.h"
 #include "tracks/TrackManager.h"
 #include "tracks/TrackQuestions.h"
 #include "tracks/TrackTexts.h"
+#include "ui/InputBox.h"
+#include "ui/Messages.h"
 
 namespace RandomTrackmaker {
 

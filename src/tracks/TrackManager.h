@@ -1,5 +1,5 @@
-// The actions on tracks that menus and choosers run, and what the track editor does: start a track,
-// add parts to it, and write it as a track file.
+// The work on tracks behind the menus and the editor's windows: check a track file, choose a file
+// for a new track, add parts to it, and write it.
 #pragma once
 
 #include <cstdint>
@@ -11,12 +11,11 @@ namespace TrackManager {
 // Fails with RuntimeError if the game is not installed, or as the dialog does.
 void CheckTrackMenu();
 
-// Starts a track: the user chooses its file, and the editor's window is shown in place of the one
-// in use. Parts that were built but not saved are kept and will go into the chosen file. If no file
-// is chosen, the user is told and nothing changes. No file is replaced unasked: if the user wants
-// to keep one, nothing changes either.
+// Lets the user choose the file of a new track, which need not exist. Returns its full path, with
+// the extension of tracks; empty if none is chosen, which the user is told, or if the user wants to
+// keep a file of that name: none is replaced unasked.
 // Fails as Application::GameFolder does.
-void NewTrack();
+std::string ChooseFileOfNewTrack();
 
 // Appends a part: three lines with its curve code, its surface code and its length.
 void AppendTrackPart(int32_t curve, int32_t surface, int32_t length, std::string& text);
@@ -28,10 +27,11 @@ void AppendTrackEnd(bool sunny, std::string& text);
 // Fails as Platform::WriteWholeFile does.
 void WriteTextFile(const std::string& path, const std::string& text);
 
-// Asks for the weather, writes the track in work to its file, says so, and goes back to the main
-// window; no track is then in work. A track without parts is written too.
-// Without a file, the user chooses one first, as for NewTrack; without a choice nothing changes.
-// Fails as WriteTextFile does: the track in work and its window are then as before.
-void SaveTrack();
+// Asks for the weather, writes the track in work to its file and says so; no track is then in work.
+// A track without parts is written too. Without a file, the user chooses one first; without a
+// choice nothing changes.
+// Returns true if the track was written. Fails as WriteTextFile does: the track in work is then as
+// before.
+bool SaveTrack();
 
 }  // namespace TrackManager

@@ -1,14 +1,12 @@
 #include "tracks/TrackParts.h"
 
-#include "base/PerRun.h"
 #include "base/RuntimeError.h"
-#include "platform/MsgBox.h"
 #include "platform/Numbers.h"
 #include "text/StringTable.h"
 #include "tracks/TrackFormat.h"
 #include "tracks/TrackInWork.h"
 #include "tracks/TrackManager.h"
-#include "tracks/Trackmaker.h"
+#include "ui/MsgBox.h"
 
 namespace {
 
@@ -27,7 +25,6 @@ void Refuse(const std::string& text) {
 
 TrackParts::TrackParts() : Form(TrackTexts.NewPartTitle) {
   OnLoad = [this] { Form_Load(); };
-  OnUnload = [this] { Form_Unload(); };
   Submit.OnClick = [this] { Submit_Click(); };
   Ccl.OnClick = [this] { Ccl_Click(); };
 }
@@ -36,10 +33,6 @@ void TrackParts::Form_Load() {
   PartLength.SetText("");
   Fill(TrackSurface, TrackFormat::Surfaces);
   Fill(TrackCurve, TrackFormat::Curves);
-}
-
-void TrackParts::Form_Unload() {
-  PerRun<Trackmaker>().Show();
 }
 
 void TrackParts::Submit_Click() {
@@ -55,12 +48,12 @@ void TrackParts::Submit_Click() {
   TrackCurve.Select(0);
   TrackSurface.Select(0);
   PartLength.SetText("");
-  PerRun<Trackmaker>().Show();
-  PerRun<Trackmaker>().AddLine(line);
+  GoBack();
+  if (OnAdded) OnAdded(line);
 }
 
 void TrackParts::Ccl_Click() {
-  PerRun<Trackmaker>().Show();
+  GoBack();
 }
 
 // The length as typed, or nothing if it is refused: the user has then been told. A length beyond 32

@@ -2,17 +2,22 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "base/SharedTexts.h"
-#include "platform/Forms.h"
 #include "tracks/TrackTexts.h"
+#include "ui/Forms.h"
 
-// One for a run: PerRun<TrackParts>(). However it is left, the track editor's window comes back.
+// One for a run: PerRun<TrackParts>(). However it is left, the window that opened it comes back.
 class TrackParts final : public Platform::Form {
  public:
   TrackParts();
+
+  // A part was added to the track in work, and the window that opened this one is back.
+  //   line  the part in words.
+  std::function<void(const std::string& line)> OnAdded;
 
  private:
   // In reading order. The row of a list is the code that goes into the file.
@@ -23,7 +28,6 @@ class TrackParts final : public Platform::Form {
   Platform::Button Ccl{*this, {.text = SharedTexts.CclButton, .isCancel = true}};
 
   void Form_Load();     // fills the lists
-  void Form_Unload();   // back to the track
   void Submit_Click();  // adds the part; a length that cannot be is told and the dialog stays
   void Ccl_Click();     // back to the track, which stays as it is
 

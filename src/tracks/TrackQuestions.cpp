@@ -1,15 +1,15 @@
 #include "tracks/TrackQuestions.h"
 
-#include "app/Application.h"
-#include "app/FileDialogs.h"
 #include "base/Text.h"
+#include "game/Application.h"
+#include "game/FileDialogs.h"
 #include "platform/Files.h"
 #include "platform/LetterCase.h"
-#include "platform/MsgBox.h"
 #include "platform/Paths.h"
-#include "text/Messages.h"
 #include "text/StringTable.h"
 #include "tracks/TrackTexts.h"
+#include "ui/Messages.h"
+#include "ui/MsgBox.h"
 
 namespace TrackQuestions {
 

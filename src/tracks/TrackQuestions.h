@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/LangText.h"
-#include "platform/FileDialog.h"
+#include "ui/FileDialog.h"
 
 namespace TrackQuestions {
 

@@ -1,6 +1,7 @@
 #include "tracks/Trackmaker.h"
 
 #include "base/PerRun.h"
+#include "tracks/TrackInWork.h"
 #include "tracks/TrackManager.h"
 #include "tracks/TrackParts.h"
 
@@ -38,19 +39,28 @@ void Trackmaker::Form_KeyDown(Platform::KeyEvent& key) {
 }
 
 void Trackmaker::NewPart_Click() {
-  PerRun<TrackParts>().Show();
+  auto& parts = PerRun<TrackParts>();
+  parts.OnAdded = [this](const std::string& line) { AddLine(line); };
+  parts.Show();
 }
 
 void Trackmaker::Compile_Click() {
-  TrackManager::SaveTrack();
+  if (TrackManager::SaveTrack()) GoBack();
 }
 
 void Trackmaker::Track_Click() {
-  Platform::MainForm().Show();
-  TrackManager::NewTrack();
+  GoBack();
+  NewTrack();
 }
 
 void Trackmaker::Ccl_Click() {
   Track.Focus();
-  Platform::MainForm().Show();
+  GoBack();
+}
+
+void NewTrack() {
+  const std::string path = TrackManager::ChooseFileOfNewTrack();
+  if (path.empty()) return;
+  PerRun<Trackmaker>().Show();
+  TheTrack().TrackPath = path;
 }

@@ -1,9 +1,9 @@
 #include "vehicles/CarManager.h"
 
-#include "app/Application.h"
-#include "app/CheckReport.h"
-#include "app/FileDialogs.h"
-#include "text/Messages.h"
+#include "game/Application.h"
+#include "game/CheckReport.h"
+#include "game/FileDialogs.h"
+#include "ui/Messages.h"
 #include "vehicles/VehicleChecker.h"
 #include "vehicles/VehicleTexts.h"
 

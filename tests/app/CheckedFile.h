@@ -8,6 +8,7 @@
 #include "platform/Paths.h"
 #include "tests/FailureSweep.h"
 #include "tests/Matchers.h"
+#include "tests/SimulatedGame.h"
 
 namespace CheckedFile {
 
@@ -34,7 +35,7 @@ inline void ExpectAnyFailureToEndInOneBox(const Menu& menu, const std::string& p
                                           const std::string& bytes,
                                           const std::vector<std::string>& sounds = {}) {
   const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
-    machine.InstallGame("C:\\Games\\Skidrun2");
+    InstallGame(machine, "C:\\Games\\Skidrun2");
     machine.files.Put(path, bytes);
     for (const std::string& sound : sounds) machine.files.Put(sound, "");
     StartPack();

@@ -5,18 +5,19 @@
 #include <string>
 
 #include "app/LanguageTemplate.h"
-#include "app/Program.h"
 #include "app/Start.h"
-#include "platform/Forms.h"
+#include "platform/Executable.h"
+#include "tests/SimulatedGame.h"
 #include "tests/Story.h"
 #include "tests/Texts.h"
+#include "ui/Forms.h"
 
 class PackStory : public Story {
  protected:
   static inline const std::string Game = "C:\\Games\\Skidrun2";
   static inline const std::string PackTitle = "Skidrun2 Utility Pack V1.0";
 
-  PackStory() { machine.InstallGame(Game); }
+  PackStory() { InstallGame(machine, Game); }
 
   void StartPack() {
     hasStarted_ = true;
@@ -36,7 +37,7 @@ class PackStory : public Story {
   // What the program has written into the language file is what translators get.
   void ExpectAppendedTextsToBeListed() const {
     const auto listed = Texts::Split(LanguageTemplate(), "\r\n");
-    const std::string file = Program::PathBesideProgram(".lng");
+    const std::string file = Platform::PathBesideProgram(".lng");
     for (const std::string& line : Texts::Split(machine.files.Appended(file), "\r\n")) {
       EXPECT_TRUE(std::count(listed.begin(), listed.end(), line))
           << "not for translators: " << line;

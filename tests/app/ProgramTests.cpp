@@ -1,5 +1,7 @@
 #include "app/Program.h"
 
+#include "update/Updater.h"
+
 #include <gtest/gtest.h>
 
 #include "tests/Story.h"
@@ -50,8 +52,8 @@ class ProgramStory : public Story {};
 TEST_F(ProgramStory, FilesBesideTheProgramBearItsName) {
   machine.executable.folder = "D:\\My Pack";
   machine.executable.name = "Pack";
-  EXPECT_EQ(Program::PathBesideProgram(".lng"), "D:\\My Pack\\Pack.lng");
-  EXPECT_EQ(Program::UpdaterPath(), "D:\\My Pack\\orvPackupdater.exe");
+  EXPECT_EQ(Platform::PathBesideProgram(".lng"), "D:\\My Pack\\Pack.lng");
+  EXPECT_EQ(Updater::UpdaterPath(), "D:\\My Pack\\orvPackupdater.exe");
 }
 
 }  // namespace

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "app/FileDialogs.h"
 #include "app/LanguageTemplate.h"
 #include "app/Program.h"
+#include "game/FileDialogs.h"
 #include "platform/Sound.h"
 #include "tests/FailureSweep.h"
 #include "tests/Texts.h"

@@ -7,6 +7,7 @@
 #include "records/RecordChecker.h"
 #include "records/RecordFile.h"
 #include "tests/ProjectFile.h"
+#include "tests/SimulatedGame.h"
 #include "tests/Story.h"
 #include "tracks/TrackChecker.h"
 #include "vehicles/VehicleChecker.h"
@@ -23,7 +24,7 @@ class DemoGame : public Story {
  protected:
   void SetUp() override {
     Story::SetUp();
-    machine.InstallGame(Game);
+    InstallGame(machine, Game);
     for (const auto& entry : fs::recursive_directory_iterator(Demo)) {
       if (entry.is_directory()) {
         machine.files.PutFolder(InGame(entry));

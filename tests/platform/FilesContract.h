@@ -6,7 +6,7 @@
 
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
-#include "tests/platform/TestMachine.h"
+#include "tests/machine/TestMachine.h"
 
 using Platform::AppendToFile;
 using Platform::FileExists;

@@ -8,7 +8,7 @@
 
 #include "base/RuntimeError.h"
 #include "platform/Numbers.h"
-#include "tests/platform/TestMachine.h"
+#include "tests/machine/TestMachine.h"
 
 class NumbersContract : public ContractTest {
  protected:

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/Registry.h"
-#include "tests/platform/TestMachine.h"
+#include "tests/machine/TestMachine.h"
 
 using Platform::QueryRegistryValue;
 using Platform::RegistryRoot;

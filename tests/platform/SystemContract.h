@@ -8,12 +8,12 @@
 #include "base/RuntimeError.h"
 #include "platform/Clock.h"
 #include "platform/Executable.h"
-#include "platform/Forms.h"
 #include "platform/LetterCase.h"
 #include "platform/NamedMutex.h"
 #include "platform/ShellOpen.h"
 #include "platform/Sound.h"
-#include "tests/platform/TestMachine.h"
+#include "tests/machine/TestMachine.h"
+#include "ui/Forms.h"
 
 class SystemContract : public ContractTest {};
 

@@ -1,8 +1,9 @@
 // Record files that cannot be written: the user is told, and nothing is lost or pretended.
 #include "base/LineReader.h"
-#include "platform/Controls.h"
 #include "tests/FailureSweep.h"
+#include "tests/SimulatedGame.h"
 #include "tests/records/RecordStory.h"
+#include "ui/Controls.h"
 
 namespace {
 
@@ -107,7 +108,7 @@ TEST(RecordFailureSweep, AnySingleFailureLeavesFileAndWindowInAgreement) {
   const std::string all = "hill=1000\r\nlake=2000\r\nmoor=3000\r\n";
   const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
     Simulated::User& user = machine.user;
-    machine.InstallGame("C:\\Games\\Skidrun2");
+    InstallGame(machine, "C:\\Games\\Skidrun2");
     machine.files.Put(path, all);
     StartPack();
     machine.FailAnyCall(after);

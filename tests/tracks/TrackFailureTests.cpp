@@ -4,6 +4,7 @@
 #include "base/LineReader.h"
 #include "tests/FailureSweep.h"
 #include "tests/Matchers.h"
+#include "tests/SimulatedGame.h"
 #include "tracks/TrackInWork.h"
 
 namespace {
@@ -19,7 +20,7 @@ const std::string OnePart = "3\r\n1\r\n7000\r\n";
 // is written too.
 struct StartedPack {
   explicit StartedPack(Simulated::Machine& itsMachine) : machine(itsMachine) {
-    machine.InstallGame(Game);
+    InstallGame(machine, Game);
     machine.files.PutFolder(machine.executable.folder);
     machine.files.Put(Race, "an old track");
     StartPack();

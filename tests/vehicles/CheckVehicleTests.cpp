@@ -1,4 +1,5 @@
 // The menu item Vehicle, Check .vhc file.
+#include "tests/SimulatedGame.h"
 #include "tests/app/CheckedFile.h"
 #include "tests/app/PackStory.h"
 
@@ -113,7 +114,7 @@ TEST_F(CheckVehicleStory, TitlesComeFromTheLanguageFileUnderTheirOwnKeys) {
 TEST_F(CheckVehicleStory, TheGameIsLookedForAtEachCheck) {
   user.CancelsFileDialog();
   ChecksFile();
-  machine.InstallGame("D:\\Racing");
+  InstallGame(machine, "D:\\Racing");
   user.CancelsFileDialog();
   user.ChoosesMenu({"Vehicle", "Check .vhc file"});
   EXPECT_EQ(user.LastFileDialog().initialFolder, "D:\\Racing\\vehicles");

@@ -4,6 +4,7 @@
 #include "tests/FailureSweep.h"
 #include "tests/HostFile.h"
 #include "tests/PeakMemory.h"
+#include "tests/SimulatedGame.h"
 #include "tests/Story.h"
 #include "tests/vehicles/ReferenceVehicleChecker.h"
 #include "vehicles/VehicleVariables.h"
@@ -116,7 +117,7 @@ TEST_F(VehicleChecker, AnEmptySoundNameStandsForTheFolderItself) {
 }
 
 TEST_F(VehicleChecker, ASoundIsAnythingThatExistsInTheFolder) {
-  machine.InstallGame("C:\\Games\\Skidrun2");
+  InstallGame(machine, "C:\\Games\\Skidrun2");
   machine.files.Put(Folder + "\\Engine.wav", "");
   machine.files.PutFolder(Folder + "\\spare");
   EXPECT_EQ(Check("enginesound=engine.WAV\r\nhornsound=spare\r\nstartsound=rocket.vhc\r\n"),

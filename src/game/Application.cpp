@@ -1,0 +1,40 @@
+#include "game/Application.h"
+
+#include "base/RuntimeError.h"
+#include "game/GameTexts.h"
+#include "game/Registry.h"
+
+namespace Application {
+
+namespace {
+
+std::string UninstallValue(const std::string& name) {
+  return Registry::ReadRegistryValue(Platform::RegistryRoot::LocalMachine,
+                                     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"
+                                     "{7A3C51E2-94D0-4B6F-A1C8-2E5D90F4B317}_is1",
+                                     name);
+}
+
+}  // namespace
+
+std::string GameFolder() {
+  std::string location = UninstallValue("InstallLocation");
+  // A location of one character leaves no folder either.
+  if (location.size() < 2) {
+    throw RuntimeError(RuntimeError::InvalidCall, GameTexts.GameNotInstalled);
+  }
+  location.pop_back();
+  return location;
+}
+
+std::string GamePublisher() {
+  return UninstallValue("Publisher");
+}
+std::string GameVersion() {
+  return UninstallValue("DisplayVersion");
+}
+std::string GameContact() {
+  return UninstallValue("Contact");
+}
+
+}  // namespace Application

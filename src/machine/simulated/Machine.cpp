@@ -1,0 +1,35 @@
+#include "machine/simulated/Machine.h"
+
+#include <cstdlib>
+
+#include "base/PerRun.h"
+
+namespace Simulated {
+
+namespace {
+Machine* theMachine = nullptr;
+}
+
+Machine& TheMachine() {
+  if (!theMachine) {
+    Complain("the program runs without a machine");
+    std::abort();
+  }
+  return *theMachine;
+}
+
+Machine::Machine() {
+  if (theMachine) Complain("there is a machine already");
+  theMachine = this;
+  files.PutFolder("C:");
+  files.PutFolder(executable.folder);
+}
+
+Machine::~Machine() {
+  RunObjects::End();
+  for (const std::string& path : files.OpenFiles()) Complain("the program left open: " + path);
+  user.ComplainAboutUnusedSteps();
+  theMachine = nullptr;
+}
+
+}  // namespace Simulated

@@ -1,0 +1,91 @@
+#include "ui/FileDialog.h"
+
+#include "machine/win32/System.h"
+
+#include <commdlg.h>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "base/RuntimeError.h"
+#include "machine/win32/CodePage.h"
+#include "machine/win32/FormWindow.h"
+#include "platform/Paths.h"
+
+namespace Platform {
+
+namespace {
+
+// Far longer than any path, so that a choice always fits.
+constexpr size_t ResultSize = 32768;
+
+// Puts the program's current folder back: the dialog moves it to the folder that the user looks at,
+// and would keep that folder from being removed.
+class CurrentFolderKeeper {
+ public:
+  CurrentFolderKeeper() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
+    folder_.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data()));
+  }
+  CurrentFolderKeeper(const CurrentFolderKeeper&) = delete;
+  CurrentFolderKeeper& operator=(const CurrentFolderKeeper&) = delete;
+  ~CurrentFolderKeeper() { SetCurrentDirectoryW(folder_.c_str()); }
+
+ private:
+  std::wstring folder_;
+};
+
+// Two texts and the NUL of each, as the system wants a list; another NUL ends it.
+std::wstring FilterOf(const FileDialog& dialog) {
+  std::wstring filter;
+  for (const std::string& text : {dialog.fileType, dialog.pattern}) {
+    std::wstring wide = Widen(text);
+    std::replace(wide.begin(), wide.end(), L'\0', L' ');
+    filter += wide + L'\0';
+  }
+  return filter;
+}
+
+// What the user chose, empty if it was cancelled; nothing if the dialog could not be shown.
+std::optional<std::string> Ask(const FileDialog& dialog, const std::string& folder) {
+  const CurrentFolderKeeper keeper;
+  const std::wstring title = Widen(dialog.title);
+  const std::wstring filter = FilterOf(dialog);
+  const std::wstring extension = Widen(dialog.defaultExtension);
+  const std::wstring initialFolder = Widen(folder);
+  std::wstring chosen(ResultSize, L'\0');
+  // Wide characters: the narrow dialog would give a name that the code page cannot hold as that of
+  // another file, with letters that look like the right ones.
+  OPENFILENAMEW choice{};
+  choice.lStructSize = sizeof(choice);
+  choice.hwndOwner = ActiveWindow();
+  choice.lpstrFilter = dialog.pattern.empty() ? nullptr : filter.c_str();
+  choice.lpstrFile = chosen.data();
+  choice.nMaxFile = static_cast<DWORD>(chosen.size());
+  choice.lpstrInitialDir = initialFolder.empty() ? nullptr : initialFolder.c_str();
+  choice.lpstrTitle = title.c_str();
+  choice.lpstrDefExt = extension.empty() ? nullptr : extension.c_str();
+  choice.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST;
+  const bool isSaving = dialog.kind() == FileDialog::Kind::Save;
+  if (isSaving) choice.Flags |= OFN_OVERWRITEPROMPT;
+
+  if (isSaving ? GetSaveFileNameW(&choice) : GetOpenFileNameW(&choice)) {
+    return Narrow(chosen.c_str());
+  }
+  if (CommDlgExtendedError() == 0) return "";
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::string FileDialog::Show() {
+  auto chosen = Ask(*this, initialFolder);
+  // A folder that the system cannot make sense of is no reason to go without the dialog.
+  if (!chosen) chosen = Ask(*this, "");
+  if (!chosen) throw RuntimeError(RuntimeError::DeviceError);
+  // What the code page cannot hold has become "?", so that no other file is meant.
+  CheckName(*chosen);
+  return *std::move(chosen);
+}
+
+}  // namespace Platform

@@ -1,0 +1,27 @@
+#include "platform/ShellOpen.h"
+
+#include "machine/win32/System.h"
+
+#include <objbase.h>
+#include <shellapi.h>
+
+#include "machine/win32/FormWindow.h"
+
+namespace Platform {
+
+void ShellOpen(const std::string& target) {
+  // Programs that the shell talks to by COM need it made ready on this thread.
+  const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
+  SHELLEXECUTEINFOA what{};
+  what.cbSize = sizeof what;
+  // Without the flag that keeps the system silent, it tells what it cannot open. All is done when
+  // the call returns.
+  what.fMask = SEE_MASK_NOASYNC;
+  what.hwnd = ActiveWindow();
+  what.lpFile = target.c_str();
+  what.nShow = SW_SHOWNORMAL;
+  ShellExecuteExA(&what);
+  if (SUCCEEDED(com)) CoUninitialize();
+}
+
+}  // namespace Platform

@@ -1,0 +1,140 @@
+#include "ui/Controls.h"
+
+#include <algorithm>
+
+#include "platform/LetterCase.h"
+#include "ui/FormView.h"
+#include "ui/Forms.h"
+
+namespace Platform {
+
+Control::Control(Form& form, Kind kind, const LangText& caption)
+    : form_(form), kind_(kind), captionText_(caption) {
+  form_.controls_.push_back(this);
+}
+
+Control::~Control() {
+  form_.TakeDown();  // the view must not outlive what it mirrors
+  std::erase(form_.controls_, this);
+}
+
+void Control::SetCaption(const std::string& caption) {
+  caption_ = caption;
+  if (form_.view()) form_.view()->CaptionChanged(*this);
+}
+
+void Control::SetEnabled(bool isEnabled) {
+  if (isEnabled == isEnabled_) return;
+  isEnabled_ = isEnabled;
+  StateChanged();
+}
+
+void Control::SetVisible(bool isVisible) {
+  if (isVisible == isVisible_) return;
+  isVisible_ = isVisible;
+  StateChanged();
+}
+
+void Control::StateChanged() {
+  if (HasFocus() && !TakesFocus()) form_.MoveFocusOn();
+  // A window in which nothing could take the focus has it on the first control that can again.
+  const bool isFirstUsable = !form_.focus() && TakesFocus();
+  if (isFirstUsable) form_.focus_ = this;
+  if (!form_.view()) return;
+  form_.view()->StateChanged(*this);
+  if (isFirstUsable) form_.view()->FocusChanged();
+}
+
+bool Control::TakesFocus() const {
+  return kind_ != Kind::Label && isEnabled_ && isVisible_;
+}
+
+void Control::Focus() {
+  if (!TakesFocus()) return;
+  form_.focus_ = this;
+  if (form_.view()) form_.view()->FocusChanged();
+}
+
+bool Control::HasFocus() const {
+  return form_.focus() == this;
+}
+
+void TextBox::SetText(const std::string& text) {
+  text_ = text;
+  if (form().view()) form().view()->TextChanged(*this);
+}
+
+void TextBox::SelectAll() {
+  if (form().view()) form().view()->AllSelected(*this);
+}
+
+void TextBox::Typed(const std::string& text) {
+  if (text == text_) return;
+  text_ = text;
+  if (OnChange) Dispatch(OnChange);
+}
+
+void ListBox::Add(const std::string& row) {
+  rows_.push_back(row);
+  if (form().view()) form().view()->RowAdded(*this);
+}
+
+void ListBox::Clear() {
+  rows_.clear();
+  selected_ = -1;
+  if (form().view()) form().view()->RowsCleared(*this);
+}
+
+void ListBox::Remove(int index) {
+  if (index < 0 || index >= count()) return;
+  rows_.erase(rows_.begin() + index);
+  if (index < selected_ || selected_ >= count()) --selected_;
+  if (form().view()) {
+    form().view()->RowRemoved(*this, index);
+    form().view()->SelectionChanged(*this);
+  }
+}
+
+void ListBox::Select(int index) {
+  selected_ = index >= 0 && index < count() ? index : -1;
+  if (form().view()) form().view()->SelectionChanged(*this);
+}
+
+void ListBox::Selected(int index) {
+  if (index == selected_) return;
+  selected_ = index;
+  if (OnSelect) Dispatch(OnSelect);
+}
+
+void ListBox::DoubleClicked() {
+  if (OnDoubleClick) Dispatch(OnDoubleClick);
+}
+
+void Button::Click() {
+  if (TakesFocus() && OnClick) Dispatch(OnClick);
+}
+
+char AccessKey(const std::string& caption) {
+  for (size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != '&') continue;
+    if (caption[++i] != '&') return LowerCase(caption.substr(i, 1)).front();
+  }
+  return 0;
+}
+
+std::string WithoutAccessKey(const std::string& caption) {
+  std::string shown;
+  for (size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && ++i == caption.size()) break;
+    shown += caption[i];
+  }
+  return shown;
+}
+
+std::string AsCaption(const std::string& text) {
+  std::string caption;
+  for (const char c : text) caption.append(c == '&' ? 2 : 1, c);
+  return caption;
+}
+
+}  // namespace Platform

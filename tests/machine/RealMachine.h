@@ -1,0 +1,30 @@
+// The parts of the real machine's side of TestMachine.h that know of each other.
+#pragma once
+
+#include <string>
+
+#include "machine/win32/System.h"
+
+namespace RealMachine {
+
+// Handles all messages that wait, as the program does, until there are none.
+void Pump();
+// Takes from the queue what a test left in it.
+void EmptyQueue();
+
+// Puts back, at the end of a test, what each part changed.
+void PutBackFiles();
+void PutBackSeparators();
+void PutBackRegistry();
+void ForgetModalWindows();
+void PutBackDocuments();
+
+// Lets a file be written that is open already, but not be made shorter, until the test ends. False
+// if this machine cannot do so.
+bool RefuseShortening(const std::string& path);
+
+// For main: if this program was started to open a document of the tests, notes what it was given,
+// and returns true.
+bool WasStartedToOpen(int count, char** arguments);
+
+}  // namespace RealMachine

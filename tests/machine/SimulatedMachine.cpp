@@ -1,0 +1,214 @@
+// The simulated machine, as the contract tests ask for it.
+#include <algorithm>
+
+#include "machine/simulated/Machine.h"
+#include "machine/simulated/OpenBox.h"
+#include "tests/machine/TestMachine.h"
+#include "ui/Forms.h"
+
+namespace TestMachine {
+
+namespace {
+
+std::unique_ptr<Simulated::Machine> machine;
+
+std::vector<std::string> Sorted(std::vector<std::string> texts) {
+  std::sort(texts.begin(), texts.end());
+  return texts;
+}
+
+std::string Described(const std::vector<Platform::MenuItem*>& items, const char* separator) {
+  std::string all;
+  for (const Platform::MenuItem* item : items) {
+    if (!all.empty()) all += separator;
+    if (item->IsChecked()) all += "checked:";
+    if (!item->IsEnabled()) all += "greyed:";
+    all += item->caption();
+    if (!item->items().empty()) all += "(" + Described(item->items(), ",") + ")";
+  }
+  return all;
+}
+
+}  // namespace
+
+void SetUp() {
+  machine = std::make_unique<Simulated::Machine>();
+}
+
+void TearDown() {
+  machine.reset();
+}
+
+std::string ScratchFolder() {
+  machine->files.PutFolder("C:\\Scratch");
+  return "C:\\Scratch";
+}
+
+void PutFile(const std::string& path, const std::string& bytes) {
+  machine->files.Put(path, bytes);
+}
+
+void PutFolder(const std::string& path) {
+  machine->files.PutFolder(path);
+}
+
+std::optional<std::string> BytesOf(const std::string& path) {
+  const Simulated::DiskEntry* file = machine->files.Find(path);
+  if (!file) return std::nullopt;
+  return Simulated::BytesOf(*file);
+}
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  return Sorted(machine->files.Names(folder));
+}
+
+void SetAttributes(const std::string& path, int attributes) {
+  machine->files.SetAttributes(path, attributes);
+}
+
+int AttributesOf(const std::string& path) {
+  return machine->files.Attributes(path);
+}
+
+void Hold(const std::string& path, Sharing sharing) {
+  if (sharing == Sharing::WithNobody) {
+    machine->files.HoldAlone(path);
+  } else {
+    machine->files.Hold(path);
+  }
+}
+
+void LetGo(const std::string& path) {
+  machine->files.Release(path);
+}
+
+bool RefuseNewFiles(const std::string& folder) {
+  machine->files.RefuseNewFiles(folder);
+  return true;
+}
+
+void SetSeparators(const std::string& decimal, const std::string& thousands) {
+  machine->locale.SetSeparators(decimal, thousands);
+}
+
+std::string ScratchSubkey() {
+  return "SOFTWARE\\SK2PackContractTest";
+}
+
+void PutRegistryValue(Platform::RegistryRoot root, Platform::RegistryView view,
+                      const std::string& subkey, const std::string& name,
+                      const Platform::RegistryValue& value) {
+  machine->registry.Put(root, view, subkey, name, value);
+}
+
+std::string FolderOfExecutable() {
+  return machine->executable.folder;
+}
+
+std::string NameOfExecutable() {
+  return machine->executable.name;
+}
+
+Platform::ProgramVersion VersionOfExecutable() {
+  return machine->executable.version;
+}
+
+bool HasMutex(const std::string& name) {
+  return machine->mutexes.Exists(name);
+}
+
+bool HasSoundDevice() {
+  return machine->sound.IsPluggedIn();
+}
+
+std::string DocumentExtension() {
+  return ".chm";
+}
+
+std::string OpenedDocument() {
+  return machine->shell.Opened().empty() ? "" : machine->shell.Opened().back();
+}
+
+void Press(const std::string& key) {
+  machine->user.Presses(key);
+}
+
+void Type(const std::string& text) {
+  machine->user.Types(text);
+}
+
+void HoldDown(const std::string& key) {
+  machine->user.Presses(key);
+}
+
+void LetGoOfKeys() {}
+
+void CloseWindow() {
+  machine->user.ClosesWindow();
+}
+
+void CloseFromTaskbar(const std::string& title) {
+  machine->user.ClosesFromTaskbar(title);
+}
+
+void ClickRow(const std::string& row) {
+  machine->user.Clicks(row);
+}
+
+void DoubleClickRow(const std::string& row) {
+  machine->user.DoubleClicks(row);
+}
+
+void ClickButton(const std::string& caption) {
+  machine->user.Clicks(caption);
+}
+
+std::string Hears() {
+  return machine->user.Hears();
+}
+
+std::string SelectedText() {
+  return machine->user.SelectedText();
+}
+
+std::vector<std::string> VisibleWindows() {
+  return machine->screen.Titles();
+}
+
+std::string ActiveWindow() {
+  return machine->user.SeesWindow();
+}
+
+std::string Menus() {
+  return Described(Platform::ActiveForm()->menus(), " ");
+}
+
+void ChooseMenu(const std::vector<std::string>& captions) {
+  std::vector<std::string> shown;
+  for (const std::string& caption : captions) {
+    shown.push_back(Platform::WithoutAccessKey(caption));
+  }
+  machine->user.ChoosesMenu(shown);
+}
+
+void WhenModalWindowOpens(std::function<void()> action) {
+  machine->user.WhenAnythingOpens(std::move(action));
+}
+
+MessageBoxSeen MessageBoxOnScreen() {
+  const Simulated::OpenBox* box = machine->screen.BoxInUse();
+  if (!box) return {};
+  return {box->box().title, box->box().text};
+}
+
+void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces) {
+  machine->user.ChoosesFile(path);
+  if (!replaces) return;
+  *replaces ? machine->user.AnswersYes() : machine->user.AnswersNo();
+}
+
+void LeaveFileDialog() {
+  machine->user.CancelsFileDialog();
+}
+
+}  // namespace TestMachine

@@ -1,0 +1,11 @@
+// Holds the simulated machine to the contracts.
+#include "tests/platform/FilesContract.h"
+#include "tests/platform/NumbersContract.h"
+#include "tests/platform/RegistryContract.h"
+#include "tests/platform/SystemContract.h"
+#include "tests/ui/ControlsContract.h"
+#include "tests/ui/DialogsContract.h"
+#include "tests/ui/FormsContract.h"
+#include "tests/ui/KeysContract.h"
+#include "tests/ui/MenusContract.h"
+#include "tests/ui/StageContract.h"
