@@ -6,9 +6,11 @@
 #include <iterator>
 #include <string>
 
+#include "tests/ProjectFolder.h"
+
 namespace ProjectFile {
 
-inline const std::filesystem::path Root = SK2_SOURCE_DIR;
+inline const std::filesystem::path Root = ProjectFolder;
 
 // All bytes of a file; empty if there is none.
 //   path  from the root of the project, such as "help/index.html".

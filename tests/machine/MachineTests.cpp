@@ -13,6 +13,7 @@
 #include "platform/Registry.h"
 #include "platform/ShellOpen.h"
 #include "platform/Sound.h"
+#include "tests/ProjectFile.h"
 #include "tests/SimulatedGame.h"
 #include "tests/Story.h"
 #include "ui/FileDialog.h"
@@ -279,7 +280,7 @@ TEST_F(Failing, WithoutSpeakersThereIsNoSound) {
 class MachineStory : public Story {};
 
 TEST_F(MachineStory, AHostFileIsReadPieceByPiece) {
-  machine.files.MountHostFile("C:\\story.h", std::string(SK2_SOURCE_DIR) + "/tests/Story.h");
+  machine.files.MountHostFile("C:\\story.h", (ProjectFile::Root / "tests/Story.h").string());
   machine.files.LimitReads(100);
   FileReader reader("C:\\STORY.h");
   std::string read;
