@@ -7,7 +7,8 @@ file(GLOB_RECURSE formatted CONFIGURE_DEPENDS
   ${CMAKE_SOURCE_DIR}/e2e/*.h ${CMAKE_SOURCE_DIR}/e2e/*.cpp
   ${CMAKE_SOURCE_DIR}/bench/*.h ${CMAKE_SOURCE_DIR}/bench/*.cpp
   ${CMAKE_SOURCE_DIR}/fuzz/*.h ${CMAKE_SOURCE_DIR}/fuzz/*.cpp
-  ${CMAKE_SOURCE_DIR}/languages/*.cpp)
+  ${CMAKE_SOURCE_DIR}/languages/*.cpp
+  ${CMAKE_SOURCE_DIR}/resources/*.h ${CMAKE_SOURCE_DIR}/resources/*.cpp)
 if(CLANG_FORMAT)
   add_custom_target(check-format
     COMMAND ${CLANG_FORMAT} --dry-run --Werror ${formatted} VERBATIM)
@@ -29,7 +30,7 @@ if(RUN_CLANG_TIDY)
       endif()
     endforeach()
   else()
-    string(APPEND tidied /src/)
+    string(APPEND tidied "/(src|resources/sounds)/")
   endif()
   add_custom_target(check-tidy
     COMMAND ${RUN_CLANG_TIDY} ${tidy_options} -p ${CMAKE_BINARY_DIR} ${tidied} VERBATIM)

@@ -1,7 +1,8 @@
 # The shipped program, staged as it is installed, and the same program under other versions for the
 # tests of its title.
 #
-# sk2_version_resource(NAME VERSION DESCRIPTION): generated/NAME.rc with the pack's icon and manifest.
+# sk2_version_resource(NAME VERSION DESCRIPTION): generated/NAME.rc with the pack's icon, manifest and
+# sounds. The target that it is linked to depends on "sounds".
 function(sk2_version_resource name version description)
   string(REPLACE "." "," SK2_RC_VERSION "${version},0")
   set(SK2_RC_VERSION_TEXT "${version}")
@@ -10,8 +11,8 @@ function(sk2_version_resource name version description)
   set(resource ${CMAKE_BINARY_DIR}/generated/${name}.rc)
   configure_file(${CMAKE_SOURCE_DIR}/resources/sk2pack.rc.in ${resource} @ONLY)
   set_source_files_properties(${resource} PROPERTIES
-    INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR}/resources
-    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/sk2pack.manifest;${CMAKE_SOURCE_DIR}/resources/sk2pack.ico")
+    INCLUDE_DIRECTORIES "${CMAKE_SOURCE_DIR}/resources;${SK2_SOUNDS}"
+    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/sk2pack.manifest;${CMAKE_SOURCE_DIR}/resources/sk2pack.ico;${SK2_SOUNDS}/sounds.rc")
 endfunction()
 
 # sk2_pack(NAME VERSION DESCRIPTION): an executable NAME.exe of the pack with that version.
@@ -20,6 +21,7 @@ function(sk2_pack name version description)
   add_executable(${name} WIN32 src/app/Main.cpp ${CMAKE_BINARY_DIR}/generated/${name}.rc)
   target_link_libraries(${name} PRIVATE core machine)
   target_link_options(${name} PRIVATE -s)
+  add_dependencies(${name} sounds)
 endfunction()
 
 sk2_pack(sk2pack ${PROJECT_VERSION} "Skidrun2 Utility Pack")

@@ -48,7 +48,7 @@ SourceFile Read(const fs::path& path) {
 const std::vector<SourceFile>& AllFiles() {
   static const std::vector<SourceFile> files = [] {
     std::vector<SourceFile> all;
-    for (const char* folder : {"src", "tests", "e2e", "bench", "fuzz", "languages"}) {
+    for (const char* folder : {"src", "tests", "e2e", "bench", "fuzz", "languages", "resources"}) {
       if (!fs::exists(ProjectFile::Root / folder)) continue;
       for (const auto& entry : fs::recursive_directory_iterator(ProjectFile::Root / folder)) {
         const std::string extension = entry.path().extension().string();
