@@ -34,17 +34,19 @@ lint_suites() {
 }
 
 bring_up_machine() {
-  enter_machine out/e2e && start_display && start_sound && start_web && start_windows &&
-    use_virtual_desktop && use_own_web
+  enter_machine out/e2e && start_display && start_sound && record_speakers && start_web &&
+    start_windows && use_virtual_desktop && use_own_web
 }
 
 # The tests on the real machine mostly wait for windows; this takes what they leave of the processors.
 in_background lint_suites
 if bring_up_machine; then
-  gtest_suite "contracts on the real machine" wine out/windows/tests/contract-tests.exe
+  gtest_suite "contracts on the real machine" wine out/windows/tests/contract-tests.exe \
+    --speakers=out/e2e/speakers.raw
   rm -rf out/e2e/pictures
   gtest_suite "the shipped program" wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack \
-    --versions=out/windows/versions --demo=demo --pictures=out/e2e/pictures
+    --versions=out/windows/versions --demo=demo --pictures=out/e2e/pictures \
+    --speakers=out/e2e/speakers.raw
 else
   count "the machine to run the program on" 0 1
 fi

@@ -33,7 +33,8 @@ int main(int count, char** arguments) {
     const bool isKnown = TakeOption(argument, "pack", given.pack) ||
                          TakeOption(argument, "versions", given.versions) ||
                          TakeOption(argument, "demo", given.demo) ||
-                         TakeOption(argument, "pictures", given.pictures);
+                         TakeOption(argument, "pictures", given.pictures) ||
+                         TakeOption(argument, "speakers", given.speakers);
     if (!isKnown) {
       std::fprintf(stderr, "unknown option %s\n", arguments[i]);
       return 2;
@@ -43,7 +44,7 @@ int main(int count, char** arguments) {
       given.pictures.empty()) {
     std::fprintf(stderr,
                  "usage: e2e-tests --pack=FOLDER --versions=FOLDER --demo=FOLDER "
-                 "--pictures=FOLDER\n");
+                 "--pictures=FOLDER [--speakers=FILE]\n");
     return 2;
   }
   std::filesystem::create_directories(given.pictures);

@@ -99,6 +99,15 @@ END
   wait_until "the sound server" pactl info
 }
 
+# Records all that is played, from now on, at the end of FOLDER/speakers.raw: samples of 16 bits,
+# mono, 44100 a second. Five megabytes a minute.
+record_speakers() {
+  rm -f "$machine_folder/speakers.raw"
+  start recorder sh -c 'exec parec --device=speakers.monitor --raw --format=s16le --rate=44100 \
+    --channels=1 --latency-msec=20 >"$1"' sh "$machine_folder/speakers.raw"
+  wait_until "the recorder" test -s "$machine_folder/speakers.raw"
+}
+
 is_port_free() {
   ! (exec 3<>"/dev/tcp/127.0.0.1/$1") 2>/dev/null
 }

@@ -12,6 +12,7 @@ struct Places {
   std::string versions;  // the same program under other version numbers
   std::string demo;      // the demo game
   std::string pictures;  // where the pictures of the windows go
+  std::string speakers;  // the file of Recording; empty if nobody records them
 };
 Places& Given();
 

@@ -5,6 +5,7 @@
 #include "app/AppTexts.h"
 #include "base/RuntimeErrorTexts.h"
 #include "base/SharedTexts.h"
+#include "base/SoundTexts.h"
 #include "game/FileDialogTexts.h"
 #include "game/GameTexts.h"
 #include "internet/InternetTexts.h"
@@ -31,6 +32,7 @@ std::vector<LangText> AllTexts() {
   add(RecordTexts);
   add(InternetTexts);
   add(UpdateTexts);
+  add(SoundTexts);
   add(RuntimeErrorTexts);
   return all;
 }

@@ -83,7 +83,7 @@ void SK2UtilityPack::Form_Load() {
   Try([] { Updater::RemoveLeftOverUpdater(); });
   Try([this] { SetTitle(Program::Title(Platform::ReadProgramVersion())); });
   Try([] { Platform::HoldNamedMutex("ORVSK2Pack"); });
-  Try([this] { Platform::OpenSoundDevice(*this); });
+  Try(Platform::OpenSoundDevice);
   Try([] { SharedDialogs().Translate(); });
   Try([this] { TranslateMenu(); });
 }

@@ -11,6 +11,7 @@
 #include "platform/Files.h"
 #include "platform/NamedMutex.h"
 #include "platform/Registry.h"
+#include "platform/Resources.h"
 #include "platform/ShellOpen.h"
 #include "platform/Sound.h"
 #include "tests/ProjectFile.h"
@@ -64,7 +65,7 @@ TEST(Machine, TakesBackAtARunsEndWhatTheRunHeld) {
   {
     Form main(FixedText("Main"));
     StartProgram(main);
-    OpenSoundDevice(main);
+    OpenSoundDevice();
     HoldNamedMutex("ORVSK2Pack");
     RunObjects::End();
   }
@@ -192,7 +193,8 @@ void UseEverything() {
   attempt([&] { ReadProgramVersion(); });
   attempt([&] { HoldNamedMutex("Name"); });
   attempt([&] { ShellOpen("http://a.example/"); });
-  attempt([&] { OpenSoundDevice(MainForm()); });
+  attempt([&] { OpenSoundDevice(); });
+  attempt([&] { ReadResource(SoundResource, "a"); });
   attempt([&] {
     FileDialog dialog(FileDialog::Kind::Open);
     dialog.title = "Open";
@@ -214,11 +216,12 @@ TEST(Sweep, LetsEachCallFailInItsTurn) {
     failed.insert(machine.FailedCall().substr(0, machine.FailedCall().find(' ')));
     EXPECT_THAT(machine.files.Names("C:"), testing::Not(testing::Contains(HasSubstr(".tmp"))));
   }
-  EXPECT_THAT(failed, ElementsAre("AppendToFile", "FileDialog", "FileExists", "FileReader",
-                                  "FileReader::Read", "FileWriter", "FileWriter::Finish",
-                                  "FileWriter::Write", "HoldNamedMutex", "OpenSoundDevice",
-                                  "QueryRegistryValue", "ReadProgramVersion", "ReadWholeFile",
-                                  "RemoveFile", "ShellOpen", "StampOf", "WriteWholeFile"));
+  EXPECT_THAT(
+      failed,
+      ElementsAre("AppendToFile", "FileDialog", "FileExists", "FileReader", "FileReader::Read",
+                  "FileWriter", "FileWriter::Finish", "FileWriter::Write", "HoldNamedMutex",
+                  "OpenSoundDevice", "QueryRegistryValue", "ReadProgramVersion", "ReadResource",
+                  "ReadWholeFile", "RemoveFile", "ShellOpen", "StampOf", "WriteWholeFile"));
 }
 
 TEST_F(Failing, OneCallOnlyFails) {
@@ -271,7 +274,7 @@ TEST_F(Failing, WithoutSpeakersThereIsNoSound) {
   machine.sound.Unplug();
   Form main(FixedText("Main"));
   StartProgram(main);
-  EXPECT_THROW(OpenSoundDevice(main), RuntimeError);
+  EXPECT_THROW(OpenSoundDevice(), RuntimeError);
   EXPECT_FALSE(IsSoundDeviceOpen());
 }
 

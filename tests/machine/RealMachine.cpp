@@ -2,7 +2,6 @@
 // each test.
 #include "tests/machine/RealMachine.h"
 
-#include <mmsystem.h>
 #include <oleauto.h>
 
 #include <array>
@@ -73,6 +72,7 @@ void TearDown() {
   RunObjects::End();
   RealMachine::EmptyQueue();
   RealMachine::ForgetModalWindows();
+  RealMachine::PutBackSound();
   RealMachine::PutBackFiles();
   RealMachine::PutBackSeparators();
   RealMachine::PutBackRegistry();
@@ -128,8 +128,13 @@ bool HasMutex(const std::string& name) {
   return mutex != nullptr;
 }
 
-bool HasSoundDevice() {
-  return waveOutGetNumDevs() > 0;
+// As RealMachine.rc declares it.
+std::string NameOfResource() {
+  return "ContractSound";
+}
+
+std::string BytesOfResource() {
+  return {"RIFF\0\xFFsound\r\n", 13};
 }
 
 }  // namespace TestMachine

@@ -14,6 +14,7 @@ void EmptyQueue();
 
 // Puts back, at the end of a test, what each part changed.
 void PutBackFiles();
+void PutBackSound();
 void PutBackSeparators();
 void PutBackRegistry();
 void ForgetModalWindows();
@@ -22,6 +23,9 @@ void PutBackDocuments();
 // Lets a file be written that is open already, but not be made shorter, until the test ends. False
 // if this machine cannot do so.
 bool RefuseShortening(const std::string& path);
+
+// The file with all that comes out of the speakers, for E2e::Recording; empty if nobody records it.
+std::string& SpeakersFile();
 
 // For main: if this program was started to open a document of the tests, notes what it was given,
 // and returns true.

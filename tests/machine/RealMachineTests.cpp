@@ -1,8 +1,11 @@
 // Holds the real machine to the contracts.
+#include <string_view>
+
 #include "tests/machine/RealMachine.h"
 #include "tests/platform/FilesContract.h"
 #include "tests/platform/NumbersContract.h"
 #include "tests/platform/RegistryContract.h"
+#include "tests/platform/SoundContract.h"
 #include "tests/platform/SystemContract.h"
 #include "tests/ui/ControlsContract.h"
 #include "tests/ui/DialogsContract.h"
@@ -11,8 +14,14 @@
 #include "tests/ui/MenusContract.h"
 #include "tests/ui/StageContract.h"
 
+// contract-tests [--speakers=FILE]: the file is the one that E2e::Recording reads.
 int main(int argc, char** argv) {
   if (RealMachine::WasStartedToOpen(argc, argv)) return 0;
   testing::InitGoogleTest(&argc, argv);
+  for (int i = 1; i < argc; ++i) {
+    constexpr std::string_view Option = "--speakers=";
+    const std::string_view argument = argv[i];
+    if (argument.starts_with(Option)) RealMachine::SpeakersFile() = argument.substr(Option.size());
+  }
   return RUN_ALL_TESTS();
 }

@@ -3,6 +3,7 @@
 
 #include "machine/simulated/Machine.h"
 #include "machine/simulated/OpenBox.h"
+#include "platform/Resources.h"
 #include "tests/machine/TestMachine.h"
 #include "ui/Forms.h"
 
@@ -33,6 +34,7 @@ std::string Described(const std::vector<Platform::MenuItem*>& items, const char*
 
 void SetUp() {
   machine = std::make_unique<Simulated::Machine>();
+  machine->executable.resources = {{Platform::SoundResource, NameOfResource(), BytesOfResource()}};
 }
 
 void TearDown() {
@@ -117,8 +119,40 @@ bool HasMutex(const std::string& name) {
   return machine->mutexes.Exists(name);
 }
 
+std::string NameOfResource() {
+  return "ContractSound";
+}
+
+std::string BytesOfResource() {
+  return {"RIFF\0\xFFsound\r\n", 13};
+}
+
 bool HasSoundDevice() {
   return machine->sound.IsPluggedIn();
+}
+
+std::vector<SoundPlaying> SoundsPlaying() {
+  std::vector<SoundPlaying> sounds;
+  for (const auto& sound : machine->sound.Playing()) {
+    sounds.push_back({sound.samples, sound.channels, sound.bits, sound.rate, sound.isLooping});
+  }
+  return sounds;
+}
+
+void LetSoundsEnd() {
+  machine->sound.EndSounds();
+}
+
+void UnplugSoundDevice() {
+  machine->sound.Unplug();
+}
+
+void PlugInSoundDevice() {
+  machine->sound.PlugIn();
+}
+
+void LoseSounds() {
+  machine->sound.LoseSounds();
 }
 
 std::string DocumentExtension() {

@@ -2,6 +2,7 @@
 #include "tests/platform/FilesContract.h"
 #include "tests/platform/NumbersContract.h"
 #include "tests/platform/RegistryContract.h"
+#include "tests/platform/SoundContract.h"
 #include "tests/platform/SystemContract.h"
 #include "tests/ui/ControlsContract.h"
 #include "tests/ui/DialogsContract.h"

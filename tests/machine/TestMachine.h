@@ -71,7 +71,7 @@ void PutRegistryValue(Platform::RegistryRoot root, Platform::RegistryView view,
                       const std::string& subkey, const std::string& name,
                       const Platform::RegistryValue& value);
 
-// --- Executable, mutexes, sound ---
+// --- Executable, mutexes ---
 
 // What the test program's own file says of itself, asked round the platform's service.
 std::string FolderOfExecutable();
@@ -81,8 +81,38 @@ Platform::ProgramVersion VersionOfExecutable();
 // True if a mutex of that name exists in the system.
 bool HasMutex(const std::string& name);
 
-// True if there is a device that can play sounds.
+// The one sound resource that the test program's own file has, in the letter case in which it is
+// declared.
+std::string NameOfResource();
+std::string BytesOfResource();
+
+// --- Sound ---
+
+// True if there is a device that can play sounds. Without it, no other of these may be called.
 bool HasSoundDevice();
+
+// What the device is given to play.
+struct SoundPlaying {
+  std::string samples;
+  int channels = 0;
+  int bits = 0;
+  int rate = 0;  // at which it is played, in frames a second
+  bool isLooping = false;
+  bool operator==(const SoundPlaying&) const = default;
+};
+// All that is being played now, in the order in which it was put into the device's memory.
+std::vector<SoundPlaying> SoundsPlaying();
+
+// Returns when all that is played once has come to its end.
+void LetSoundsEnd();
+
+// The device goes away: what it plays falls silent, all that is asked of it fails with codes that
+// differ from one time to the next, and no device can be opened. Another one comes. Both until the
+// test ends.
+void UnplugSoundDevice();
+void PlugInSoundDevice();
+// The device takes back the memory of all its sounds; what it held is gone.
+void LoseSounds();
 
 // --- Documents ---
 

@@ -1,17 +1,17 @@
 // What every machine promises of the small services: the program's own file, the clock, letter
-// case, the named mutex, the sound device, opening documents. Included once by each machine's
-// tests.
+// case, the named mutex, opening documents. Included once by each machine's tests.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include "base/RuntimeError.h"
+#include "base/Text.h"
 #include "platform/Clock.h"
 #include "platform/Executable.h"
 #include "platform/LetterCase.h"
 #include "platform/NamedMutex.h"
+#include "platform/Resources.h"
 #include "platform/ShellOpen.h"
-#include "platform/Sound.h"
 #include "tests/machine/TestMachine.h"
 #include "ui/Forms.h"
 
@@ -70,17 +70,20 @@ TEST_F(SystemContract, ANameThatTheSystemRefusesFails) {
   }
 }
 
-TEST_F(SystemContract, TheSoundDeviceIsOpenedOnce) {
-  EXPECT_FALSE(Platform::IsSoundDeviceOpen());
-  Platform::Form owner(FixedText("Owner"));
-  Platform::StartProgram(owner);
-  if (TestMachine::HasSoundDevice()) {
-    Platform::OpenSoundDevice(owner);
-    EXPECT_TRUE(Platform::IsSoundDeviceOpen());
-    EXPECT_NO_THROW(Platform::OpenSoundDevice(owner));
-  } else {
-    EXPECT_THROW(Platform::OpenSoundDevice(owner), RuntimeError);
-    EXPECT_FALSE(Platform::IsSoundDeviceOpen());
+TEST_F(SystemContract, TheProgramReadsWhatItCarriesWhateverTheLetterCase) {
+  const std::string name = TestMachine::NameOfResource();
+  const std::string bytes = TestMachine::BytesOfResource();
+  EXPECT_EQ(Platform::ReadResource(Platform::SoundResource, name), bytes);
+  EXPECT_EQ(Platform::ReadResource(Platform::SoundResource, Text::LowerAscii(name)), bytes);
+  EXPECT_EQ(Platform::ReadResource(Platform::SoundResource, "CONTRACTSOUND"), bytes);
+}
+
+TEST_F(SystemContract, WhatTheProgramDoesNotCarryIsNotThere) {
+  const std::string name = TestMachine::NameOfResource();
+  EXPECT_EQ(Platform::ReadResource(Platform::SoundResource + 1, name), std::nullopt);
+  for (const std::string& other : {name + "s", name.substr(1), std::string("car1engine"),
+                                   std::string(), std::string("#1"), std::string("#")}) {
+    EXPECT_EQ(Platform::ReadResource(Platform::SoundResource, other), std::nullopt) << other;
   }
 }
 

@@ -7,11 +7,16 @@
 
 namespace Simulated {
 
-double Clock::Look() {
+void Clock::Pass(double seconds) {
   constexpr double SecondsPerDay = 24 * 60 * 60;
-  const double now = seconds_;
-  seconds_ += tick_;
+  steady_ += seconds;
+  seconds_ += seconds;
   if (seconds_ >= SecondsPerDay) seconds_ = std::fmod(seconds_, SecondsPerDay);
+}
+
+double Clock::Look() {
+  const double now = seconds_;
+  Pass(tick_);
   return now;
 }
 
@@ -21,6 +26,10 @@ namespace Platform {
 
 double SecondsSinceMidnight() {
   return Simulated::TheMachine().clock.Look();
+}
+
+double SteadySeconds() {
+  return Simulated::TheMachine().clock.Steady();
 }
 
 }  // namespace Platform

@@ -10,12 +10,17 @@ class Clock {
   // Moves the clock on by so much each time the program has looked at it.
   void TickPerCall(double seconds) { tick_ = seconds; }
 
-  // For the service: the time, after which the clock ticks.
+  // Lets time go by.
+  void Pass(double seconds);
+
+  // For the service: the time of day, after which the clock ticks; and the time that only goes on.
   double Look();
+  double Steady() const { return steady_; }
 
  private:
   double seconds_ = 12 * 60 * 60;
   double tick_ = 0;
+  double steady_ = 0;
 };
 
 }  // namespace Simulated

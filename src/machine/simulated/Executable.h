@@ -2,10 +2,18 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/Executable.h"
 
 namespace Simulated {
+
+// What the executable carries with it.
+struct Resource {
+  int type = 0;
+  std::string name;
+  std::string bytes;
+};
 
 struct Executable {
   std::string folder = "C:\\Program Files\\SK2Pack";
@@ -15,6 +23,7 @@ struct Executable {
                                    .revision = 0,
                                    .productName = "Skidrun2 Utility Pack",
                                    .fileDescription = "Skidrun2 Utility Pack"};
+  std::vector<Resource> resources;
 };
 
 }  // namespace Simulated

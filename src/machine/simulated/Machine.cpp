@@ -28,6 +28,7 @@ Machine::Machine() {
 Machine::~Machine() {
   RunObjects::End();
   for (const std::string& path : files.OpenFiles()) Complain("the program left open: " + path);
+  if (!sound.Playing().empty()) Complain("the program left a sound playing");
   user.ComplainAboutUnusedSteps();
   theMachine = nullptr;
 }

@@ -19,4 +19,8 @@ double SecondsSinceMidnight() {
   return seconds;
 }
 
+double SteadySeconds() {
+  return static_cast<double>(GetTickCount64()) / 1000;
+}
+
 }  // namespace Platform

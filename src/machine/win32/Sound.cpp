@@ -1,5 +1,3 @@
-#include "platform/Sound.h"
-
 #include "machine/win32/System.h"
 
 // Before dsound.h, which needs its types.
@@ -7,46 +5,121 @@
 
 #include <dsound.h>
 
-#include "base/PerRun.h"
-#include "base/RuntimeError.h"
+#include <cstring>
+
 #include "machine/win32/FormWindow.h"
+#include "platform/Sound.h"
+#include "platform/SoundDevice.h"
 #include "ui/Forms.h"
 
 namespace Platform {
 
 static_assert(SoundBufferFlags ==
               (DSBCAPS_CTRLFREQUENCY | DSBCAPS_CTRLPAN | DSBCAPS_CTRLVOLUME | DSBCAPS_GLOBALFOCUS));
+static_assert(LowestRate == DSBFREQUENCY_MIN && HighestRate == DSBFREQUENCY_MAX);
 
 namespace {
 
-struct SoundDevice {
-  SoundDevice() = default;
-  SoundDevice(const SoundDevice&) = delete;
-  SoundDevice& operator=(const SoundDevice&) = delete;
-  ~SoundDevice() {
-    if (device) device->Release();
-  }
-  IDirectSound8* device = nullptr;
+struct Release {
+  void operator()(IUnknown* object) const { object->Release(); }
 };
+template <class Interface>
+using Owned = std::unique_ptr<Interface, Release>;
+
+// The system takes no buffer of less than four bytes. A shorter sound is repeated in it, which
+// sounds the same when it is looped.
+size_t SizeInMemory(const Wave& wave) {
+  const size_t size = wave.samples.size();
+  return size * ((DSBSIZE_MIN + size - 1) / size);
+}
 
 }  // namespace
 
-void OpenSoundDevice(Form& owner) {
-  SoundDevice& sound = PerRun<SoundDevice>();
-  if (sound.device) return;
-  IDirectSound8* device = nullptr;
-  if (FAILED(DirectSoundCreate8(nullptr, &device, nullptr))) {
-    throw RuntimeError(RuntimeError::DeviceError);
-  }
-  if (FAILED(device->SetCooperativeLevel(WindowOf(owner), DSSCL_NORMAL))) {
-    device->Release();
-    throw RuntimeError(RuntimeError::DeviceError);
-  }
-  sound.device = device;
+struct SoundDevice::Native {
+  Owned<IDirectSound8> device;
+};
+
+SoundDevice::SoundDevice() : native_(std::make_unique<Native>()) {}
+SoundDevice::~SoundDevice() = default;
+
+std::unique_ptr<SoundDevice> SoundDevice::Open() {
+  IDirectSound8* opened = nullptr;
+  // Which code says that there is no device differs from system to system.
+  if (FAILED(DirectSoundCreate8(nullptr, &opened, nullptr))) return nullptr;
+  std::unique_ptr<SoundDevice> device(new SoundDevice);
+  device->native_->device.reset(opened);
+  if (FAILED(opened->SetCooperativeLevel(WindowOf(MainForm()), DSSCL_NORMAL))) return nullptr;
+  return device;
 }
 
-bool IsSoundDeviceOpen() {
-  return PerRun<SoundDevice>().device != nullptr;
+struct SoundOnDevice::Native {
+  bool Fill(const Wave& wave) const {
+    void* memory = nullptr;
+    DWORD size = 0;
+    if (FAILED(buffer->Lock(0, 0, &memory, &size, nullptr, nullptr, DSBLOCK_ENTIREBUFFER))) {
+      return false;
+    }
+    const bool fits = size == SizeInMemory(wave);
+    for (size_t begin = 0; fits && begin < size; begin += wave.samples.size()) {
+      std::memcpy(static_cast<char*>(memory) + begin, wave.samples.data(), wave.samples.size());
+    }
+    return SUCCEEDED(buffer->Unlock(memory, size, nullptr, 0)) && fits;
+  }
+
+  Owned<IDirectSoundBuffer> buffer;
+};
+
+SoundOnDevice::SoundOnDevice() : native_(std::make_unique<Native>()) {}
+SoundOnDevice::~SoundOnDevice() = default;
+
+std::unique_ptr<SoundOnDevice> SoundOnDevice::Make(SoundDevice& device, const Wave& wave) {
+  WAVEFORMATEX format{};
+  format.wFormatTag = WAVE_FORMAT_PCM;
+  format.nChannels = static_cast<WORD>(wave.channels);
+  format.nSamplesPerSec = static_cast<DWORD>(wave.rate);
+  format.wBitsPerSample = static_cast<WORD>(wave.bits);
+  format.nBlockAlign = static_cast<WORD>(wave.FrameSize());
+  format.nAvgBytesPerSec = format.nSamplesPerSec * format.nBlockAlign;
+  DSBUFFERDESC description{};
+  description.dwSize = sizeof description;
+  description.dwFlags = SoundBufferFlags;
+  description.dwBufferBytes = static_cast<DWORD>(SizeInMemory(wave));
+  description.lpwfxFormat = &format;
+  IDirectSoundBuffer* buffer = nullptr;
+  if (FAILED(device.native().device->CreateSoundBuffer(&description, &buffer, nullptr))) {
+    return nullptr;
+  }
+  std::unique_ptr<SoundOnDevice> sound(new SoundOnDevice);
+  sound->native_->buffer.reset(buffer);
+  if (!sound->native_->Fill(wave)) return nullptr;
+  return sound;
+}
+
+bool SoundOnDevice::Play(bool isLooping) {
+  return SUCCEEDED(native_->buffer->Play(0, 0, isLooping ? DSBPLAY_LOOPING : 0));
+}
+
+bool SoundOnDevice::Stop() {
+  const bool isStopped = SUCCEEDED(native_->buffer->Stop());
+  return SUCCEEDED(native_->buffer->SetCurrentPosition(0)) && isStopped;
+}
+
+bool SoundOnDevice::SetFrequency(int rate) {
+  return SUCCEEDED(native_->buffer->SetFrequency(static_cast<DWORD>(rate)));
+}
+
+bool SoundOnDevice::Restore(const Wave& wave) {
+  return SUCCEEDED(native_->buffer->Restore()) && native_->Fill(wave) &&
+         SUCCEEDED(native_->buffer->SetCurrentPosition(0));
+}
+
+SoundOnDevice::State SoundOnDevice::Ask() {
+  DWORD status = 0;
+  const HRESULT result = native_->buffer->GetStatus(&status);
+  if (result == DSERR_BUFFERLOST) return State::Lost;
+  if (FAILED(result)) return State::Broken;
+  if (status & DSBSTATUS_BUFFERLOST) return State::Lost;
+  return status & DSBSTATUS_PLAYING ? State::Playing : State::Silent;
 }
 
 }  // namespace Platform
