@@ -43,6 +43,7 @@ in_background lint_suites
 if bring_up_machine; then
   gtest_suite "contracts on the real machine" wine out/windows/tests/contract-tests.exe \
     --speakers=out/e2e/speakers.raw
+  check_suite bench-lists wine out/windows/bench/lists/bench-lists.exe --brief
   rm -rf out/e2e/pictures
   gtest_suite "the shipped program" wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack \
     --versions=out/windows/versions --demo=demo --pictures=out/e2e/pictures \

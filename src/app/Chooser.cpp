@@ -21,9 +21,9 @@ Chooser::Chooser(const LangText& title, const LangText& prompt, std::vector<Entr
 }
 
 void Chooser::Form_Load() {
-  What.Clear();
-  for (const Entry& entry : entries_) What.Add(GetLangString(entry.text));
-  What.Select(0);
+  std::vector<std::string> rows;
+  for (const Entry& entry : entries_) rows.push_back(GetLangString(entry.text));
+  What.SetRows(std::move(rows), 0);
 }
 
 void Chooser::Submit_Click() {

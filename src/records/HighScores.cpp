@@ -15,11 +15,11 @@ HighScores::HighScores() : Form(RecordTexts.RecordViewerTitle) {
 
 void HighScores::ShowRecords(std::vector<std::string> records) {
   records_ = std::move(records);
-  Tracks.Clear();
+  std::vector<std::string> tracks;
   for (const std::string& record : records_) {
-    if (const auto track = RecordFile::TrackOf(record)) Tracks.Add(*track);
+    if (auto track = RecordFile::TrackOf(record)) tracks.push_back(std::move(*track));
   }
-  Tracks.Select(0);
+  Tracks.SetRows(std::move(tracks), 0);
   ShowSelectedTime();
   Show();
 }
@@ -39,7 +39,6 @@ void HighScores::DeleteRecord(int index) {
   RecordFile::Write(remaining);
   records_ = std::move(remaining);
   Tracks.Remove(index);
-  ShowSelectedTime();
   Tracks.Focus();
 }
 

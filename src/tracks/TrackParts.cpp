@@ -12,9 +12,9 @@ namespace {
 
 template <class Names>
 void Fill(Platform::ListBox& list, const Names& names) {
-  list.Clear();
-  for (const LangText& name : names) list.Add(GetLangString(name));
-  list.Select(0);
+  std::vector<std::string> rows;
+  for (const LangText& name : names) rows.push_back(GetLangString(name));
+  list.SetRows(std::move(rows), 0);
 }
 
 void Refuse(const std::string& text) {
@@ -40,6 +40,9 @@ void TrackParts::Submit_Click() {
   if (!length) return;
   const int curve = TrackCurve.selected();
   const int surface = TrackSurface.selected();
+  // Another program can take a selection away: the user is led to the list that needs one.
+  if (surface < 0) return TrackSurface.Focus();
+  if (curve < 0) return TrackCurve.Focus();
   const std::string line = TrackCurve.row(curve) + " " + GetLangString(TrackTexts.SectionOn) + " " +
                            TrackSurface.row(surface) + " " + GetLangString(TrackTexts.For) + " " +
                            std::to_string(*length) + " " + GetLangString(TrackTexts.Units) + ".";

@@ -1,6 +1,7 @@
 #include "ui/Controls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/LetterCase.h"
 #include "ui/FormView.h"
@@ -74,36 +75,68 @@ void TextBox::Typed(const std::string& text) {
   if (OnChange) Dispatch(OnChange);
 }
 
-void ListBox::Add(const std::string& row) {
-  rows_.push_back(row);
-  if (form().view()) form().view()->RowAdded(*this);
-}
-
-void ListBox::Clear() {
-  rows_.clear();
-  selected_ = -1;
-  if (form().view()) form().view()->RowsCleared(*this);
-}
-
-void ListBox::Remove(int index) {
-  if (index < 0 || index >= count()) return;
-  rows_.erase(rows_.begin() + index);
-  if (index < selected_ || selected_ >= count()) --selected_;
-  if (form().view()) {
-    form().view()->RowRemoved(*this, index);
-    form().view()->SelectionChanged(*this);
+void ListBox::SetRows(std::vector<std::string> rows, int selected) {
+  rows_.swap(rows);
+  const int selectedBefore = selected_;
+  selected_ = Contains(selected) ? selected : -1;
+  if (!form().view()) return;
+  try {
+    form().view()->RowsSet(*this);
+  } catch (...) {
+    PutBack(rows, selectedBefore);
+    throw;
   }
 }
 
+void ListBox::PutBack(std::vector<std::string>& rows, int selected) noexcept {
+  rows_.swap(rows);
+  selected_ = selected;
+  try {
+    // The rows that failed have given their memory back, so that the old ones fit again.
+    form().view()->RowsSet(*this);
+  } catch (...) {
+    Clear();  // if not even they do, there are none, on the screen as here
+  }
+}
+
+void ListBox::Add(const std::string& row) {
+  rows_.push_back(row);
+  if (!form().view()) return;
+  try {
+    form().view()->RowAdded(*this);
+  } catch (...) {
+    rows_.pop_back();
+    throw;
+  }
+}
+
+void ListBox::Remove(int index) {
+  const bool isMovedUp = index < selected_ || selected_ == count() - 1;
+  Remove(index, isMovedUp ? selected_ - 1 : selected_);
+}
+
+void ListBox::Remove(int index, int selected) {
+  if (!Contains(index)) return;
+  rows_.erase(rows_.begin() + index);
+  if (form().view()) form().view()->RowRemoved(*this, index);
+  Select(selected);
+  if (OnSelect) OnSelect();
+}
+
 void ListBox::Select(int index) {
-  selected_ = index >= 0 && index < count() ? index : -1;
+  selected_ = Contains(index) ? index : -1;
   if (form().view()) form().view()->SelectionChanged(*this);
 }
 
 void ListBox::Selected(int index) {
-  if (index == selected_) return;
-  selected_ = index;
+  selected_ = Contains(index) ? index : -1;
   if (OnSelect) Dispatch(OnSelect);
+}
+
+bool ListBox::TakeSelection() {
+  const int shown = form().view()->SelectedRow(*this);
+  const int before = std::exchange(selected_, Contains(shown) ? shown : -1);
+  return selected_ != before;
 }
 
 void ListBox::DoubleClicked() {
@@ -111,7 +144,10 @@ void ListBox::DoubleClicked() {
 }
 
 void Button::Click() {
-  if (TakesFocus() && OnClick) Dispatch(OnClick);
+  if (!TakesFocus() || !OnClick) return;
+  Dispatch([this] {
+    if (form().TakeSelections() && TakesFocus()) OnClick();
+  });
 }
 
 char AccessKey(const std::string& caption) {

@@ -106,17 +106,31 @@ class ListBox final : public Control {
   int count() const { return static_cast<int>(rows_.size()); }
   const std::string& row(int index) const { return rows_.at(static_cast<size_t>(index)); }
 
+  // Puts rows in place of those that are there, and selects one of them; an index outside the list
+  // selects none. Does not run OnSelect. Many rows go in faster together than one by one. Fails
+  // when memory has run out; rows and selection are then as they were.
+  void SetRows(std::vector<std::string> rows, int selected);
+  void Clear() { SetRows({}, -1); }
+  // Adds a row behind the others. Fails when memory has run out; the list is then as it was.
   void Add(const std::string& row);
-  void Clear();
-  // Removes a row. If it was the selected one, the row that follows it is selected, or the last.
+
+  // Removes a row; an index outside the list does nothing. The selected row stays selected; if it
+  // was the removed one, the row that follows it is selected, or the last. Runs OnSelect, so that
+  // what shows the selected row follows; what that fails with is passed on, the row being removed.
   void Remove(int index);
+  // The same, but selects the row that the window wants, counted after the removal; an index
+  // outside the list selects none.
+  void Remove(int index, int selected);
 
   // The selected row, counted from 0; -1 if there is none.
   int selected() const { return selected_; }
   // Selects a row; an index outside the list selects none. Does not run OnSelect.
   void Select(int index);
 
-  std::function<void()> OnSelect;       // the user moved to another row, by key or by mouse
+  // The user chose a row, by key or by mouse, or a row was removed. It may be the row that was
+  // selected before: a click on it is a choice too, and an arrow key that can go no further is told
+  // like one that can. So the handler must do no harm when it runs again.
+  std::function<void()> OnSelect;
   std::function<void()> OnDoubleClick;  // only ever repeats a button
 
   // For the view: what the user did.
@@ -124,6 +138,12 @@ class ListBox final : public Control {
   void DoubleClicked();
 
  private:
+  friend class Form;
+  // True if the view has another row selected than the program knows of; it is now selected here.
+  bool TakeSelection();
+  void PutBack(std::vector<std::string>& rows, int selected) noexcept;
+  bool Contains(int index) const { return index >= 0 && index < count(); }
+
   std::vector<std::string> rows_;
   int selected_ = -1;
 };

@@ -37,10 +37,18 @@ class FormView {
   void StateChanged(Control& control);  // enabled, visible
   void TextChanged(TextBox& box);
   void AllSelected(TextBox& box);
+  // All rows are others, and the selection with them. Fails when memory has run out; the view then
+  // has none of the rows, or some.
+  void RowsSet(ListBox& list);
+  // The last row is new. Fails when memory has run out; the view is then as it was.
   void RowAdded(ListBox& list);
+  // A row is gone. Which one is selected now is told by SelectionChanged.
   void RowRemoved(ListBox& list, int index);
-  void RowsCleared(ListBox& list);
   void SelectionChanged(ListBox& list);
+
+  // The row that is selected on the screen; -1 if there is none. Another program, such as a screen
+  // reader, may have selected it without a word to this one.
+  int SelectedRow(const ListBox& list) const;
 
   struct Native;
   Native& native() const { return *native_; }

@@ -269,7 +269,20 @@ Button* Form::cancelButton() const {
   return nullptr;
 }
 
+bool Form::TakeSelections() {
+  const bool wasVisible = isVisible_;
+  for (Control* control : controls_) {
+    if (!view_ || control->kind() != Control::Kind::ListBox) continue;
+    auto* list = static_cast<ListBox*>(control);
+    if (list->TakeSelection() && list->OnSelect) list->OnSelect();
+  }
+  return isVisible_ == wasVisible;
+}
+
 bool Form::KeyDown(KeyEvent key) {
+  bool isHere = false;
+  Dispatch([&] { isHere = TakeSelections(); });
+  if (!isHere) return true;
   if (!OnKeyDown) return false;
   if (focus_ && focus_->kind() == Control::Kind::TextBox && IsForEditing(key)) return false;
   Dispatch([&] { OnKeyDown(key); });

@@ -81,6 +81,11 @@ class Form {
   Button* cancelButton() const;
   FormView* view() const { return view_.get(); }
 
+  // For controls and menus, when an event of the user enters: takes over the rows that another
+  // program has selected in the lists meanwhile without telling, and runs OnSelect of those lists.
+  // False if the window has left the screen by that: the event has then lost its ground.
+  bool TakeSelections();
+
   // For the view: what the user does in the window. KeyDown returns true if the key was used. A
   // window over which a modal one stands is not closed, whoever asks for it.
   bool KeyDown(KeyEvent key);

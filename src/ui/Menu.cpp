@@ -23,7 +23,10 @@ void MenuItem::SetChecked(bool isChecked) {
 }
 
 void MenuItem::Choose() {
-  if (OnClick) Dispatch(OnClick);
+  if (!OnClick) return;
+  Dispatch([this] {
+    if (form_.TakeSelections()) OnClick();
+  });
 }
 
 void MenuItem::Translate() {

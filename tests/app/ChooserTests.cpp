@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "machine/simulated/Window.h"
 #include "tests/app/PackStory.h"
 
 namespace {
@@ -88,6 +89,23 @@ TEST_F(ChooserStory, ADoubleClickOnTrackRunsTheTrackCheck) {
   user.DoubleClicks("Track");
   EXPECT_THAT(user.LastBox(), Shows(Platform::Icon::Information, "No file selected.", "Notice"));
   EXPECT_EQ(user.SeesWindow(), PackTitle);
+}
+
+TEST_F(ChooserStory, TheEntryThatAnotherProgramSelectedIsTheOneThatRuns) {
+  user.CancelsFileDialog();
+  user.Presses("Ctrl+C");
+  Simulated::WindowInUse()->focus->SelectRow(1);
+  user.Presses("Enter");
+  EXPECT_THAT(user.LastBox(), Shows(Platform::Icon::Information, "No file selected.", "Notice"));
+}
+
+TEST_F(ChooserStory, WithoutASelectedEntryNothingRuns) {
+  user.Presses("Ctrl+C");
+  Simulated::WindowInUse()->focus->SelectRow(-1);
+  user.Presses("Enter");
+  EXPECT_EQ(user.Hears(), "Check:, list, not selected");
+  user.Presses("Down");
+  EXPECT_EQ(user.Hears(), "Check:, list, Vehicle, 1 of 3");
 }
 
 TEST_F(ChooserStory, TheThirdEntryChecksTheRecords) {

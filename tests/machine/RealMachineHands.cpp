@@ -111,8 +111,12 @@ void ClickAt(HWND window, POINT point, UINT downMessage) {
   PostMessageA(window, WM_LBUTTONUP, 0, place);
 }
 
+HWND ListInUse() {
+  return ChildOfClass(GetActiveWindow(), "ListBox");
+}
+
 HWND FindRow(const std::string& row, POINT& middle) {
-  const HWND list = ChildOfClass(GetActiveWindow(), "ListBox");
+  const HWND list = ListInUse();
   const LRESULT index = SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                      reinterpret_cast<LPARAM>(row.c_str()));
   EXPECT_GE(index, 0) << row;
@@ -120,6 +124,25 @@ HWND FindRow(const std::string& row, POINT& middle) {
   SendMessageA(list, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&rect));
   middle = {rect.left + 4, (rect.top + rect.bottom) / 2};
   return list;
+}
+
+// What a list does whose memory does not suffice for one row.
+struct ListWithoutRoom {
+  WNDPROC proc = nullptr;
+  std::string refused;
+};
+
+ListWithoutRoom& TheListWithoutRoom() {
+  static ListWithoutRoom list;
+  return list;
+}
+
+LRESULT CALLBACK RefusingProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  const ListWithoutRoom& list = TheListWithoutRoom();
+  if (message == LB_ADDSTRING && list.refused == reinterpret_cast<const char*>(lParam)) {
+    return LB_ERRSPACE;
+  }
+  return CallWindowProcA(list.proc, window, message, wParam, lParam);
 }
 
 // --- Modal windows ---
@@ -240,6 +263,16 @@ void DoubleClickRow(const std::string& row) {
   ClickAt(list, middle, WM_LBUTTONDOWN);
   ClickAt(list, middle, WM_LBUTTONDBLCLK);
   RealMachine::Pump();
+}
+
+void SelectRowUnnoticed(int row) {
+  SendMessageA(ListInUse(), LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+}
+
+void RefuseRow(const std::string& row) {
+  const auto proc = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrA(ListInUse(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(RefusingProc)));
+  TheListWithoutRoom() = {proc, row};
 }
 
 void ClickButton(const std::string& caption) {

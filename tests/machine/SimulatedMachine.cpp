@@ -3,6 +3,7 @@
 
 #include "machine/simulated/Machine.h"
 #include "machine/simulated/OpenBox.h"
+#include "machine/simulated/Window.h"
 #include "platform/Resources.h"
 #include "tests/machine/TestMachine.h"
 #include "ui/Forms.h"
@@ -18,14 +19,14 @@ std::vector<std::string> Sorted(std::vector<std::string> texts) {
   return texts;
 }
 
-std::string Described(const std::vector<Platform::MenuItem*>& items, const char* separator) {
+std::string Described(const Simulated::NativeMenu& items, const char* separator) {
   std::string all;
-  for (const Platform::MenuItem* item : items) {
+  for (const Simulated::NativeMenuItem& item : items) {
     if (!all.empty()) all += separator;
-    if (item->IsChecked()) all += "checked:";
-    if (!item->IsEnabled()) all += "greyed:";
-    all += item->caption();
-    if (!item->items().empty()) all += "(" + Described(item->items(), ",") + ")";
+    if (item.isChecked) all += "checked:";
+    if (!item.isEnabled) all += "greyed:";
+    all += item.caption;
+    if (!item.items.empty()) all += "(" + Described(item.items, ",") + ")";
   }
   return all;
 }
@@ -193,6 +194,16 @@ void DoubleClickRow(const std::string& row) {
   machine->user.DoubleClicks(row);
 }
 
+void SelectRowUnnoticed(int row) {
+  for (Simulated::NativeControl& control : Simulated::WindowInUse()->controls) {
+    if (control.kind() == Platform::Control::Kind::ListBox) control.SelectRow(row);
+  }
+}
+
+void RefuseRow(const std::string& row) {
+  machine->screen.refusedRow = row;
+}
+
 void ClickButton(const std::string& caption) {
   machine->user.Clicks(caption);
 }
@@ -214,7 +225,7 @@ std::string ActiveWindow() {
 }
 
 std::string Menus() {
-  return Described(Platform::ActiveForm()->menus(), " ");
+  return Described(*Simulated::WindowInUse()->menu, " ");
 }
 
 void ChooseMenu(const std::vector<std::string>& captions) {

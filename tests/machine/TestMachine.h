@@ -144,6 +144,11 @@ void CloseFromTaskbar(const std::string& title);
 // Clicks, or clicks twice, on the row with that text in the window's only list.
 void ClickRow(const std::string& row);
 void DoubleClickRow(const std::string& row);
+// Another program, such as a screen reader, selects a row of that list, or none with -1, and the
+// program is not told.
+void SelectRowUnnoticed(int row);
+// From now on that list has no memory for rows with that text, until its window goes.
+void RefuseRow(const std::string& row);
 // Clicks the button with that caption, without "&".
 void ClickButton(const std::string& caption);
 

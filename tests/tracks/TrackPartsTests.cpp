@@ -1,3 +1,4 @@
+#include "machine/simulated/Window.h"
 #include "tests/tracks/TrackEditorStory.h"
 #include "tracks/TrackInWork.h"
 #include "tracks/TrackManager.h"
@@ -81,6 +82,7 @@ TEST_F(TrackPartsStory, AnAddedPartIsTheLastLineOfTheViewer) {
 
 TEST_F(TrackPartsStory, AfterAPartTheDialogIsEmptyAgainWithTheFocusOnTheCurves) {
   DescribesPart(4, 2, "9000");
+  GoesTo("Length:");
   user.Presses("Enter");
   user.Presses("Alt+P");
   EXPECT_EQ(user.Hears(), "Curve:, list, Straight, 1 of 13");
@@ -88,6 +90,21 @@ TEST_F(TrackPartsStory, AfterAPartTheDialogIsEmptyAgainWithTheFocusOnTheCurves) 
   EXPECT_EQ(user.Hears(), "Length:, edit");
   GoesTo("Surface:");
   EXPECT_EQ(user.Hears(), "Surface:, list, Asphalt, 1 of 4");
+}
+
+TEST_F(TrackPartsStory, AListWhoseSelectionWasTakenAwayIsWhereTheUserIsLed) {
+  for (const char* list : {"Surface:", "Curve:"}) {
+    DescribesPart(0, 0, "7000");
+    GoesTo(list);
+    Simulated::WindowInUse()->focus->SelectRow(-1);
+    GoesTo("Length:");
+    user.Presses("Enter");
+    EXPECT_EQ(user.Hears(), std::string(list) + ", list, not selected");
+    user.Presses("Down");
+  }
+  EXPECT_EQ(TheTrack().TrackText, "");
+  user.Presses("Enter");
+  EXPECT_EQ(TheTrack().TrackText, "0\r\n0\r\n7000\r\n");
 }
 
 TEST_F(TrackPartsStory, CancelAddsNothingAndKeepsWhatWasTyped) {

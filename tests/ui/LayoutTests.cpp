@@ -206,4 +206,107 @@ TEST(Layout, DialogUnitsAreRoundedAsTheSystemRoundsThem) {
   EXPECT_EQ(units.Down(14), 26);  // 26.25
 }
 
+// --- Whole layouts, number by number in dialog units ---
+
+// A font in which a dialog unit is a pixel, and every character is four units wide.
+const Font InUnits = FontOf(4, 8);
+
+using Lines = std::vector<std::string>;
+
+std::string Described(const Rect& rect) {
+  return std::to_string(rect.x) + "," + std::to_string(rect.y) + " " + std::to_string(rect.width) +
+         "x" + std::to_string(rect.height);
+}
+
+// Each item in a line: where its control is, its label before it if it has one.
+Lines Described(const std::vector<Place>& places) {
+  Lines lines;
+  for (const Place& place : places) {
+    const std::string label = place.label == Rect{} ? "" : Described(place.label) + " / ";
+    lines.push_back(label + Described(place.control));
+  }
+  return lines;
+}
+
+std::vector<Item> Buttons(const Lines& captions) {
+  std::vector<Item> items;
+  for (const std::string& caption : captions) items.push_back({Kind::Button, caption});
+  return items;
+}
+
+TEST(LayoutInUnits, AWindowWithEverything) {
+  std::vector<Item> items = Window();
+  items.push_back({Kind::Line, ""});
+  const Size client = PreferredSize(items, InUnits, 0, Screen);
+  EXPECT_EQ(client, (Size{266, 304}));
+  EXPECT_EQ(Described(Arrange(items, InUnits, client)),
+            (Lines{"7,7 252x8", "7,22 252x8 / 7,33 252x86", "7,126 252x8 / 7,137 252x14",
+                   "7,158 252x8 / 7,169 252x86", "23,262 72x14", "99,262 52x14", "155,262 50x14",
+                   "209,262 50x14", "7,283 252x14"}));
+}
+
+TEST(LayoutInUnits, ItsLeastSize) {
+  const std::vector<Item> items{{Kind::Text, "Choose a server."},
+                                {Kind::List, "IP List:"},
+                                {Kind::Page, "Notes:"},
+                                {Kind::Button, "OK"}};
+  const Size least = LeastSize(items, InUnits, 266);
+  EXPECT_EQ(least, (Size{266, 139}));
+  const Lines places{"7,7 252x8", "7,22 252x8 / 7,33 252x30", "7,70 252x8 / 7,81 252x30",
+                     "209,118 50x14"};
+  EXPECT_EQ(Described(Arrange(items, InUnits, least)), places);
+  EXPECT_EQ(Described(Arrange(items, InUnits, {266, 50})), places) << "it does not become smaller";
+}
+
+TEST(LayoutInUnits, ASmallWindow) {
+  const std::vector<Item> items{
+      {Kind::Line, "IP:"}, {Kind::Button, "OK"}, {Kind::Button, "Cancel"}};
+  EXPECT_EQ(PreferredSize(items, InUnits, 0, Screen), (Size{194, 60}));
+  EXPECT_EQ(Described(Preferred(items, InUnits)),
+            (Lines{"7,7 180x8 / 7,18 180x14", "83,39 50x14", "137,39 50x14"}));
+  EXPECT_EQ(PreferredSize(items, InUnits, 400, Screen).width, 400) << "what the title needs";
+  EXPECT_EQ(PreferredSize(items, InUnits, 400, {150, 1024}).width, 150) << "what the screen has";
+}
+
+TEST(LayoutInUnits, ALongTextIsBroken) {
+  const std::string text = std::string(70, 'x') + " " + std::string(9, 'y');
+  EXPECT_EQ(Described(Preferred({{Kind::Text, text}}, InUnits)), Lines{"7,7 300x16"});
+  EXPECT_EQ(Described(Preferred({{Kind::Line, text}}, InUnits)), Lines{"7,7 300x16 / 7,26 300x14"});
+}
+
+TEST(LayoutInUnits, ALongWordIsNot) {
+  const std::string word(80, 'x');
+  EXPECT_EQ(Described(Preferred({{Kind::Text, word}}, InUnits)), Lines{"7,7 320x8"});
+  EXPECT_EQ(Described(Preferred(Buttons({word, "OK"}), InUnits)),
+            (Lines{"7,7 336x14", "293,25 50x14"}));
+}
+
+TEST(LayoutInUnits, ARowOfButtonsIsAtMostAsWideAsATextMayBe) {
+  const std::string caption(14, 'x');  // 72 units with its padding
+  EXPECT_EQ(Described(Preferred(Buttons({caption, caption, caption, caption}), InUnits)),
+            (Lines{"7,7 72x14", "83,7 72x14", "159,7 72x14", "235,7 72x14"}));
+  EXPECT_EQ(Described(Preferred(Buttons({caption, caption, caption, caption + "x"}), InUnits)),
+            (Lines{"7,7 72x14", "83,7 72x14", "159,7 72x14", "155,25 76x14"}));
+}
+
+TEST(LayoutInUnits, EachRunOfButtonsHasItsOwnRows) {
+  const std::string caption(10, 'x');  // 56 units with its padding
+  std::vector<Item> items = Buttons({caption, caption, caption, caption, caption});
+  items.insert(items.begin() + 1, {Kind::Line, "IP:"});
+  EXPECT_EQ(Described(Preferred(items, InUnits)),
+            (Lines{"187,7 56x14", "7,28 236x8 / 7,39 236x14", "7,60 56x14", "67,60 56x14",
+                   "127,60 56x14", "187,60 56x14"}));
+}
+
+TEST(LayoutInUnits, AButtonWithoutRoomStillShowsItsText) {
+  const std::vector<Item> items = Buttons({std::string(20, 'x'), "OK"});
+  EXPECT_EQ(Described(Arrange(items, InUnits, {94, 60})), (Lines{"7,7 80x14", "37,25 50x14"}));
+  EXPECT_EQ(Described(Arrange(items, InUnits, {0, 0})), (Lines{"7,7 80x14", "7,25 8x14"}));
+}
+
+TEST(LayoutInUnits, TallLettersMakeTallButtons) {
+  const Font tall{InUnits.units, FontOf(4, 12).measure};
+  EXPECT_EQ(Described(Preferred(Buttons({"OK"}), tall)), Lines{"137,7 50x18"});
+}
+
 }  // namespace

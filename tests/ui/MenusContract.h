@@ -44,3 +44,18 @@ TEST_F(MenusContract, ChoosingAnItemRunsIt) {
   EXPECT_EQ(ones, 1);
   EXPECT_EQ(closes, 1);
 }
+
+TEST_F(MenusContract, AnItemActsOnTheRowThatAnotherProgramHasSelected) {
+  Platform::Form tool(FixedText("Tool"));
+  Platform::ListBox Rows(tool, {.label = FixedText("&Rows")});
+  Platform::MenuItem Edit(tool, {.text = FixedText("&Edit")});
+  Platform::MenuItem Copy(Edit, {.text = FixedText("&Copy")});
+  std::string copied;
+  Copy.OnClick = [&] { copied = Rows.row(Rows.selected()); };
+  tool.OnLoad = [&] { tool.TranslateMenu(); };
+  Rows.SetRows({"hill", "lake"}, 0);
+  tool.Show();
+  TestMachine::SelectRowUnnoticed(1);
+  TestMachine::ChooseMenu({"&Edit", "&Copy"});
+  EXPECT_EQ(copied, "lake");
+}

@@ -1,5 +1,6 @@
 #include "ui/FormView.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -9,6 +10,24 @@
 namespace Platform {
 
 namespace {
+
+using Simulated::NativeControl;
+
+// Memory runs out where a test wants it to.
+void AddRow(NativeControl& list, const std::string& row) {
+  if (row == Simulated::TheMachine().screen.refusedRow) throw std::bad_alloc();
+  list.rows.push_back(row);
+}
+
+// Fills an empty list with the rows of its model.
+void Fill(NativeControl& list) {
+  const ListBox& model = list.listBox();
+  if (model.count() > 0 && Simulated::TheMachine().faults.Strikes("FormView::RowsSet")) {
+    throw std::bad_alloc();
+  }
+  for (int i = 0; i < model.count(); ++i) AddRow(list, model.row(i));
+  list.SelectRow(model.selected());
+}
 
 // Finds what the user is going to do with a modal window that has just opened.
 std::function<void()> NextModalAction(const Form& form) {
@@ -28,6 +47,9 @@ std::function<void()> NextModalAction(const Form& form) {
 }  // namespace
 
 FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {
+  for (NativeControl& control : native_->controls) {
+    if (control.kind() == Control::Kind::ListBox) Fill(control);
+  }
   Simulated::TheMachine().screen.windows.push_back(native_.get());
 }
 
@@ -38,7 +60,9 @@ FormView::~FormView() {
 void FormView::Show(FormView*) {
   if (Simulated::TheMachine().screen.refusesWindows) throw std::bad_alloc();
   native_->isShown = true;
+  native_->FollowFocus();
   native_->Check();
+  native_->CheckFocus();
 }
 
 void FormView::Hide() {
@@ -67,37 +91,74 @@ void FormView::EndModal() {
 }
 
 void FormView::TitleChanged() {
-  if (native_->isShown && native_->form.title().empty()) {
-    Simulated::Complain("a window lost its title");
-  }
+  native_->title = native_->form.title();
+  if (native_->isShown && native_->title.empty()) Simulated::Complain("a window lost its title");
 }
 
-void FormView::MenuChanged() {}
+void FormView::MenuChanged() {
+  native_->ShowMenu();
+}
 
 void FormView::FocusChanged() {
-  if (native_->isShown) native_->CheckFocus();
+  native_->isFocusMoved = true;
+  // A window that is not in use does not come to the front by this; it follows when it is.
+  const Simulated::Screen& screen = Simulated::TheMachine().screen;
+  const bool isInUse = native_->isShown && ActiveForm() == &native_->form && !screen.BoxInUse();
+  if (isInUse) native_->FollowFocus();
 }
 
-void FormView::CaptionChanged(Control&) {
+void FormView::CaptionChanged(Control& control) {
+  native_->Of(control).caption = control.caption();
   if (native_->isShown) native_->Check();
 }
 
-void FormView::StateChanged(Control&) {
+void FormView::StateChanged(Control& control) {
+  NativeControl& shown = native_->Of(control);
+  shown.isEnabled = control.IsEnabled();
+  shown.isVisible = control.IsVisible();
   if (native_->isShown) native_->Check();
 }
 
 void FormView::TextChanged(TextBox& box) {
-  native_->selections[&box] = {};
+  NativeControl& shown = native_->Of(box);
+  shown.text = box.text();
+  shown.selection = {};
 }
 
 void FormView::AllSelected(TextBox& box) {
-  native_->selections[&box] = {.anchor = 0, .caret = box.text().size()};
+  native_->Of(box).SelectAllText();
 }
 
-void FormView::RowAdded(ListBox&) {}
-void FormView::RowRemoved(ListBox&, int) {}
-void FormView::RowsCleared(ListBox&) {}
-void FormView::SelectionChanged(ListBox&) {}
+void FormView::RowsSet(ListBox& list) {
+  NativeControl& shown = native_->Of(list);
+  shown.rows.clear();
+  shown.selected = -1;
+  shown.caret = 0;
+  Fill(shown);
+}
+
+void FormView::RowAdded(ListBox& list) {
+  if (Simulated::TheMachine().faults.Strikes("FormView::RowAdded")) throw std::bad_alloc();
+  AddRow(native_->Of(list), list.row(list.count() - 1));
+}
+
+// As native lists do: the caret keeps its place, and a selected row that goes leaves none selected.
+void FormView::RowRemoved(ListBox& list, int index) {
+  NativeControl& shown = native_->Of(list);
+  shown.rows.erase(shown.rows.begin() + index);
+  if (index == shown.selected) shown.selected = -1;
+  if (index < shown.selected) --shown.selected;
+  const int last = static_cast<int>(shown.rows.size()) - 1;
+  shown.caret = std::clamp(shown.caret, 0, std::max(last, 0));
+}
+
+void FormView::SelectionChanged(ListBox& list) {
+  native_->Of(list).SelectRow(list.selected());
+}
+
+int FormView::SelectedRow(const ListBox& list) const {
+  return native_->Of(list).selected;
+}
 
 // Events come from the test itself; in a program that runs by itself, from the steps that the user
 // was told to do then.

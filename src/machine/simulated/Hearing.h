@@ -4,14 +4,14 @@
 #include <string>
 #include <vector>
 
-#include "ui/Forms.h"
+#include "machine/simulated/Window.h"
 
 namespace Simulated {
 
 // Of the focused control of a window.
-std::string Heard(const Platform::Form& form);
+std::string Heard(const Window& window);
 
 // Of a window that opens: title, explaining texts, focused control.
-std::vector<std::string> HeardOnOpening(const Platform::Form& form);
+std::vector<std::string> HeardOnOpening(const Window& window);
 
 }  // namespace Simulated

@@ -15,8 +15,6 @@ using Platform::Button;
 using Platform::Control;
 using Platform::Form;
 using Platform::KeyEvent;
-using Platform::ListBox;
-using Platform::TextBox;
 namespace Key = Platform::Key;
 namespace Shift = Platform::Shift;
 
@@ -75,81 +73,75 @@ KeyEvent KeyOf(char character) {
   return {.code = std::toupper(code), .shift = std::isupper(code) ? Shift::Shift : Shift::None};
 }
 
-TextSelection& SelectionIn(TextBox& box) {
-  TextSelection& selection = box.form().view()->native().selections[&box];
-  selection.anchor = std::min(selection.anchor, box.text().size());
-  selection.caret = std::min(selection.caret, box.text().size());
-  return selection;
-}
+// What the user does is told to the model last: the window may be gone afterwards.
 
-void Replace(TextBox& box, const TextSelection& selection, const std::string& replacement) {
-  if (box.IsReadOnly()) return;
-  std::string text = box.text();
+void Replace(NativeControl& box, const TextSelection& selection, const std::string& replacement) {
+  if (box.textBox().IsReadOnly()) return;
+  std::string text = box.text;
   text.replace(selection.begin(), selection.end() - selection.begin(), replacement);
   const size_t caret = selection.begin() + replacement.size();
-  SelectionIn(box) = {.anchor = caret, .caret = caret};
-  box.Typed(text);
+  box.selection = {.anchor = caret, .caret = caret};
+  if (text == box.text) return;
+  box.text = text;
+  box.textBox().Typed(text);
 }
 
-void FocusByKey(Control& control) {
-  control.Focus();
-  if (control.kind() == Control::Kind::TextBox) static_cast<TextBox&>(control).SelectAll();
+void ChooseRow(NativeControl& list, int row) {
+  list.SelectRow(row);
+  list.listBox().Selected(row);
 }
 
-void PressTab(Form& form, bool isBackwards) {
-  std::vector<Control*> stops;
-  for (Control* control : form.controls()) {
-    if (control->TakesFocus()) stops.push_back(control);
+void PressTab(Window& window, bool isBackwards) {
+  std::vector<NativeControl*> stops;
+  for (NativeControl& control : window.controls) {
+    if (control.TakesFocus()) stops.push_back(&control);
   }
   if (stops.empty()) return;
   if (isBackwards) std::reverse(stops.begin(), stops.end());
-  auto next = std::find(stops.begin(), stops.end(), form.focus());
+  auto next = std::find(stops.begin(), stops.end(), window.focus);
   if (next != stops.end()) ++next;
-  FocusByKey(next == stops.end() ? *stops.front() : **next);
+  window.FocusByKey(next == stops.end() ? *stops.front() : **next);
 }
 
-void PressEnter(Form& form) {
-  if (form.focus() && form.focus()->kind() == Control::Kind::Button) {
-    static_cast<Button*>(form.focus())->Click();
-  } else if (Button* button = form.defaultButton()) {
+void PressEnter(const Window& window) {
+  if (window.focus && window.focus->kind() == Control::Kind::Button) {
+    window.focus->button().Click();
+  } else if (Button* button = window.form.defaultButton()) {
     button->Click();
   }
 }
 
 // Alt and a letter: presses the button with that access key, or focuses the control whose label has
 // it. False if there is none.
-bool PressAccessKey(Form& form, int code) {
-  for (Control* control : form.controls()) {
-    const int key = static_cast<unsigned char>(Platform::AccessKey(control->caption()));
-    if (!control->TakesFocus() || std::toupper(key) != code) continue;
-    if (control->kind() != Control::Kind::Button) {
-      FocusByKey(*control);
-    } else {
-      control->Focus();
-      static_cast<Button*>(control)->Click();
-    }
+bool PressAccessKey(Window& window, int code) {
+  for (NativeControl& control : window.controls) {
+    const int key = static_cast<unsigned char>(Platform::AccessKey(control.caption));
+    if (!control.TakesFocus() || std::toupper(key) != code) continue;
+    window.FocusByKey(control);
+    if (control.kind() == Control::Kind::Button) control.button().Click();
     return true;
   }
   return false;
 }
 
 // A letter moves to the next row that begins with it.
-void TypeInList(ListBox& list, char character) {
+void TypeInList(NativeControl& list, char character) {
   const int letter = std::tolower(static_cast<unsigned char>(character));
-  for (int step = 1; step <= list.count(); ++step) {
-    const int row = (list.selected() + step) % list.count();
-    const std::string& text = list.row(row);
+  const int count = static_cast<int>(list.rows.size());
+  for (int step = 1; step <= count; ++step) {
+    const int row = (list.caret + step) % count;
+    const std::string& text = list.rows[static_cast<size_t>(row)];
     if (!text.empty() && std::tolower(static_cast<unsigned char>(text[0])) == letter) {
-      return list.Selected(row);
+      return ChooseRow(list, row);
     }
   }
 }
 
-void PressInList(ListBox& list, const KeyEvent& key, char character) {
-  if (list.count() == 0) return;
+void PressInList(NativeControl& list, const KeyEvent& key, char character) {
+  if (list.rows.empty()) return;
   if (character) return TypeInList(list, character);
-  const int last = list.count() - 1;
-  int row = list.selected();
+  const int last = static_cast<int>(list.rows.size()) - 1;
+  int row = list.caret;
   switch (key.code) {
     case Key::Up:
     case Key::Left: row -= 1; break;
@@ -161,7 +153,9 @@ void PressInList(ListBox& list, const KeyEvent& key, char character) {
     case Key::End: row = last; break;
     default: return;
   }
-  list.Selected(std::clamp(row, 0, last));
+  // Where nothing is selected, the first key that moves selects the row that the caret is on.
+  if (list.selected < 0) row = list.caret;
+  ChooseRow(list, std::clamp(row, 0, last));
 }
 
 }  // namespace
@@ -177,56 +171,55 @@ void Keyboard::Type(const std::string& text) {
 
 void Keyboard::Send(const KeyEvent& key, char character) {
   if (OpenBox* box = TheMachine().screen.BoxInUse()) return box->Press(key);
-  Form* form = ActiveForm();
-  if (!form) return Complain("there is no window for a key");
-  if (menu_.IsOpen()) return menu_.Press(key);
-  if (form->KeyDown(key) || ActiveForm() != form) return;
-  PressInDialog(*form, key, character);
+  const Window* window = WindowInUse();
+  if (!window) return Complain("there is no window for a key");
+  if (menu_.IsOpenIn(*window)) return menu_.Press(key);
+  Form& form = window->form;
+  if (form.KeyDown(key) || ActiveForm() != &form) return;
+  if (Window* here = WindowInUse()) PressInDialog(*here, key, character);
 }
 
-void Keyboard::PressInDialog(Form& form, const KeyEvent& key, char character) {
-  if (key.shift == Shift::Alt && key.code == Key::F4) return form.CloseRequested();
+void Keyboard::PressInDialog(Window& window, const KeyEvent& key, char character) {
+  if (key.shift == Shift::Alt && key.code == Key::F4) return window.form.CloseRequested();
   if (key.shift == Shift::Alt && key.code >= '0' && key.code <= 'Z') {
-    if (!PressAccessKey(form, key.code)) menu_.Open(form, key.code);
+    if (!PressAccessKey(window, key.code)) menu_.Open(window, key.code);
     return;
   }
   if (key.shift & Shift::Alt) return;
   switch (key.code) {
-    case Key::Tab: return PressTab(form, key.shift & Shift::Shift);
-    case Key::Enter: return PressEnter(form);
+    case Key::Tab: return PressTab(window, key.shift & Shift::Shift);
+    case Key::Enter: return PressEnter(window);
     case Key::Escape:
-      if (Button* button = form.cancelButton()) button->Click();
+      if (Button* button = window.form.cancelButton()) button->Click();
       return;
     default: break;
   }
-  Control* focus = form.focus();
-  if (!focus) return;
-  switch (focus->kind()) {
-    case Control::Kind::TextBox:
-      return PressInTextBox(static_cast<TextBox&>(*focus), key, character);
-    case Control::Kind::ListBox: return PressInList(static_cast<ListBox&>(*focus), key, character);
+  if (!window.focus) return;
+  NativeControl& focus = *window.focus;
+  switch (focus.kind()) {
+    case Control::Kind::TextBox: return PressInTextBox(focus, key, character);
+    case Control::Kind::ListBox: return PressInList(focus, key, character);
     case Control::Kind::Button:
-      if (key.code == Key::Space) static_cast<Button*>(focus)->Click();
+      if (key.code == Key::Space) focus.button().Click();
       return;
     case Control::Kind::Label: return;
   }
 }
 
-void Keyboard::PressInTextBox(TextBox& box, const KeyEvent& key, char character) {
-  const TextSelection selection = SelectionIn(box);
+void Keyboard::PressInTextBox(NativeControl& box, const KeyEvent& key, char character) {
+  const TextSelection selection = box.selection;
   if (character) return Replace(box, selection, std::string(1, character));
   const bool isEmpty = selection.begin() == selection.end();
-  const size_t size = box.text().size();
+  const size_t size = box.text.size();
   if (key.shift == Shift::Ctrl && key.code >= 'A' && key.code <= 'Z') {
-    if (key.code == 'A') box.SelectAll();
+    if (key.code == 'A') box.SelectAllText();
     if ((key.code == 'C' || key.code == 'X') && !isEmpty) clipboard_ = SelectedText();
     if (key.code == 'X' && !isEmpty) Replace(box, selection, "");
     if (key.code == 'V') Replace(box, selection, clipboard_);
     return;
   }
   const auto moveTo = [&](size_t caret) {
-    SelectionIn(box) = {.anchor = key.shift & Shift::Shift ? selection.anchor : caret,
-                        .caret = caret};
+    box.selection = {.anchor = key.shift & Shift::Shift ? selection.anchor : caret, .caret = caret};
   };
   const size_t before = selection.caret > 0 ? selection.caret - 1 : 0;
   const size_t behind = std::min(selection.caret + 1, size);
@@ -244,12 +237,11 @@ void Keyboard::PressInTextBox(TextBox& box, const KeyEvent& key, char character)
 }
 
 std::string Keyboard::SelectedText() const {
-  const Form* form = ActiveForm();
-  Control* focus = form ? form->focus() : nullptr;
+  const Window* window = WindowInUse();
+  const NativeControl* focus = window ? window->focus : nullptr;
   if (!focus || focus->kind() != Control::Kind::TextBox) return "";
-  auto& box = static_cast<TextBox&>(*focus);
-  const TextSelection selection = SelectionIn(box);
-  return box.text().substr(selection.begin(), selection.end() - selection.begin());
+  const TextSelection& selection = focus->selection;
+  return focus->text.substr(selection.begin(), selection.end() - selection.begin());
 }
 
 }  // namespace Simulated

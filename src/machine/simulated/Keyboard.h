@@ -5,7 +5,7 @@
 #include <string>
 
 #include "machine/simulated/MenuWalk.h"
-#include "ui/Forms.h"
+#include "ui/Keys.h"
 
 namespace Simulated {
 
@@ -24,8 +24,8 @@ class Keyboard {
   // A key, and the character that it types, or NUL: to a box, an open menu, or the window in use.
   void Send(const Platform::KeyEvent& key, char character);
   // A key that the window itself did not use.
-  void PressInDialog(Platform::Form& form, const Platform::KeyEvent& key, char character);
-  void PressInTextBox(Platform::TextBox& box, const Platform::KeyEvent& key, char character);
+  void PressInDialog(Window& window, const Platform::KeyEvent& key, char character);
+  void PressInTextBox(NativeControl& box, const Platform::KeyEvent& key, char character);
 
   std::string clipboard_;
   MenuWalk menu_;

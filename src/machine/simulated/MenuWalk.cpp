@@ -4,7 +4,6 @@
 
 namespace Simulated {
 
-using Platform::MenuItem;
 namespace Key = Platform::Key;
 
 namespace {
@@ -14,27 +13,27 @@ int Capital(char letter) {
 }
 
 // The letter by which an item is chosen: its access key, or the first one of an item without.
-int LetterOf(const MenuItem& item) {
-  const char key = Platform::AccessKey(item.caption());
-  return Capital(key || item.caption().empty() ? key : item.caption().front());
+int LetterOf(const NativeMenuItem& item) {
+  const char key = Platform::AccessKey(item.caption);
+  return Capital(key || item.caption.empty() ? key : item.caption.front());
 }
 
 }  // namespace
 
-bool MenuWalk::Open(const Platform::Form& form, int accessKey) {
-  const auto& bar = form.menus();
+bool MenuWalk::Open(const Window& window, int accessKey) {
+  const NativeMenu& bar = *window.menu;
   for (size_t i = 0; i < bar.size(); ++i) {
-    if (Capital(Platform::AccessKey(bar[i]->caption())) != accessKey) continue;
-    form_ = &form;
+    if (Capital(Platform::AccessKey(bar[i].caption)) != accessKey) continue;
+    bar_ = window.menu;
     levels_ = {{&bar, i}};
-    Enter(*bar[i]);
+    Enter(bar[i]);
     return true;
   }
   return false;
 }
 
-bool MenuWalk::IsOpen() const {
-  return !levels_.empty() && Platform::ActiveForm() == form_;
+bool MenuWalk::IsOpenIn(const Window& window) const {
+  return !levels_.empty() && window.menu == bar_;
 }
 
 void MenuWalk::Press(const Platform::KeyEvent& key) {
@@ -47,7 +46,7 @@ void MenuWalk::Press(const Platform::KeyEvent& key) {
       levels_.pop_back();
       return;
     case Key::Right:
-      if (level.item().items().empty()) return MoveInBar(false);
+      if (level.item().items.empty()) return MoveInBar(false);
       return Enter(level.item());
     case Key::Enter: return Enter(level.item());
     case Key::Escape:
@@ -70,31 +69,31 @@ void MenuWalk::MoveInBar(bool isBackwards) {
 }
 
 // Opens the menu of an item, or chooses it.
-void MenuWalk::Enter(MenuItem& item) {
-  if (!item.items().empty()) {
-    levels_.push_back({&item.items(), 0});
-  } else if (item.IsEnabled()) {
+void MenuWalk::Enter(const NativeMenuItem& item) {
+  if (!item.items.empty()) {
+    levels_.push_back({&item.items, 0});
+  } else if (item.isEnabled) {
     levels_.clear();
-    item.Choose();
+    item.item->Choose();
   }
 }
 
 void MenuWalk::PressLetter(int letter) {
   Level& level = levels_.back();
   for (size_t i = 0; i < level.items->size(); ++i) {
-    if (LetterOf(*(*level.items)[i]) != letter) continue;
+    if (LetterOf((*level.items)[i]) != letter) continue;
     level.reached = i;
     return Enter(level.item());
   }
 }
 
 std::string MenuWalk::Heard() const {
-  const MenuItem& item = levels_.back().item();
-  std::string heard = Platform::WithoutAccessKey(item.caption());
-  heard += item.items().empty() ? ", menu item" : ", submenu";
-  if (item.IsChecked()) heard += ", checked";
-  if (!item.IsEnabled()) heard += ", unavailable";
-  if (const char key = Platform::AccessKey(item.caption())) {
+  const NativeMenuItem& item = levels_.back().item();
+  std::string heard = Platform::WithoutAccessKey(item.caption);
+  heard += item.items.empty() ? ", menu item" : ", submenu";
+  if (item.isChecked) heard += ", checked";
+  if (!item.isEnabled) heard += ", unavailable";
+  if (const char key = Platform::AccessKey(item.caption)) {
     heard += std::string(", ") + static_cast<char>(Capital(key));
   }
   return heard;

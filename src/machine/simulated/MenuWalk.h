@@ -1,20 +1,22 @@
 // A user's walk through the menu bar of a window by keyboard.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "ui/Forms.h"
+#include "machine/simulated/Window.h"
+#include "ui/Keys.h"
 
 namespace Simulated {
 
 class MenuWalk {
  public:
   // Opens the menu of the bar with that access key, in capitals. False if there is none.
-  bool Open(const Platform::Form& form, int accessKey);
+  bool Open(const Window& window, int accessKey);
 
-  // True while a menu is open in the window in use.
-  bool IsOpen() const;
+  // True while a menu is open in that window. A bar that is made anew closes its menus.
+  bool IsOpenIn(const Window& window) const;
 
   // Arrows, Enter, Escape and the letters of the items.
   void Press(const Platform::KeyEvent& key);
@@ -28,18 +30,18 @@ class MenuWalk {
 
  private:
   struct Level {
-    const std::vector<Platform::MenuItem*>* items;
+    const NativeMenu* items;
     size_t reached;
 
-    Platform::MenuItem& item() const { return *(*items)[reached]; }
+    const NativeMenuItem& item() const { return (*items)[reached]; }
   };
 
   void Move(Level& level, bool isBackwards);
   void MoveInBar(bool isBackwards);
-  void Enter(Platform::MenuItem& item);
+  void Enter(const NativeMenuItem& item);
   void PressLetter(int letter);
 
-  const Platform::Form* form_ = nullptr;
+  std::shared_ptr<const NativeMenu> bar_;
   std::vector<Level> levels_;  // the bar, its open menu, the open submenus
 };
 

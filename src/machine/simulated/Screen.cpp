@@ -11,7 +11,7 @@ std::vector<std::string> Screen::Titles() const {
   std::vector<std::string> titles = dialogs;
   for (const OpenBox* box : boxes) titles.push_back(box->box().title);
   for (const Window* window : windows) {
-    if (window->isShown) titles.push_back(window->form.title());
+    if (window->isShown) titles.push_back(window->title);
   }
   std::sort(titles.begin(), titles.end());
   return titles;

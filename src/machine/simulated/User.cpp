@@ -13,49 +13,53 @@ namespace Simulated {
 using Platform::ActiveForm;
 using Platform::Control;
 using Platform::Form;
-using Platform::ListBox;
-using Platform::MenuItem;
 using Platform::WithoutAccessKey;
 
 namespace {
 
 // The window in use, which must be there, and no box over it.
-Form* WindowInUse(const std::string& whatFor) {
+Window* WindowFor(const std::string& whatFor) {
   const Screen& screen = TheMachine().screen;
   if (screen.BoxInUse() || !screen.dialogs.empty()) {
     Complain("a box is before the window to " + whatFor);
     return nullptr;
   }
-  Form* form = ActiveForm();
-  if (!form) Complain("there is no window to " + whatFor);
-  return form;
+  Window* window = WindowInUse();
+  if (!window) Complain("there is no window to " + whatFor);
+  return window;
 }
 
-bool IsCalled(const MenuItem& item, const std::string& name) {
-  const std::string caption = WithoutAccessKey(item.caption());
+bool IsCalled(const NativeMenuItem& item, const std::string& name) {
+  const std::string caption = WithoutAccessKey(item.caption);
   return caption == name || caption.starts_with(name + " (");
 }
 
-// The list in which the user can click on the row, and the row's place.
-std::pair<ListBox*, int> FindRow(const Form& form, const std::string& row) {
-  for (Control* control : form.controls()) {
-    if (control->kind() != Control::Kind::ListBox || !control->TakesFocus()) continue;
-    auto* list = static_cast<ListBox*>(control);
-    for (int i = 0; i < list->count(); ++i) {
-      if (list->row(i) == row) return {list, i};
+// The list in which the user can click on the row, and the row's place; null if there is none.
+std::pair<NativeControl*, int> FindRow(Window& window, const std::string& row) {
+  for (NativeControl& control : window.controls) {
+    if (control.kind() != Control::Kind::ListBox || !control.TakesFocus()) continue;
+    const auto found = std::find(control.rows.begin(), control.rows.end(), row);
+    if (found != control.rows.end()) {
+      return {&control, static_cast<int>(found - control.rows.begin())};
     }
   }
   return {nullptr, -1};
 }
 
-Platform::Button* FindButton(const Form& form, const std::string& caption) {
-  for (Control* control : form.controls()) {
-    if (control->kind() == Control::Kind::Button && control->TakesFocus() &&
-        WithoutAccessKey(control->caption()) == caption) {
-      return static_cast<Platform::Button*>(control);
+NativeControl* FindButton(Window& window, const std::string& caption) {
+  for (NativeControl& control : window.controls) {
+    if (control.kind() == Control::Kind::Button && control.TakesFocus() &&
+        WithoutAccessKey(control.caption) == caption) {
+      return &control;
     }
   }
   return nullptr;
+}
+
+void ClickRow(Window& window, NativeControl& list, int row) {
+  window.FocusByClick(list);
+  list.SelectRow(row);
+  list.listBox().Selected(row);
 }
 
 template <class Seen>
@@ -91,7 +95,7 @@ void User::WhenProgramWaits(std::function<void()> action) {
 }
 
 void User::ClosesWindow() {
-  if (Form* form = WindowInUse("close")) form->CloseRequested();
+  if (const Window* window = WindowFor("close")) window->form.CloseRequested();
 }
 
 void User::ClosesFromTaskbar(const std::string& title) {
@@ -99,67 +103,67 @@ void User::ClosesFromTaskbar(const std::string& title) {
   // Boxes and dialogs keep all windows from being used.
   if (!screen.boxes.empty() || !screen.dialogs.empty()) return;
   for (const Window* window : screen.windows) {
-    if (window->form.title() == title) return window->form.CloseRequested();
+    if (window->title == title) return window->form.CloseRequested();
   }
   Complain("there is no window to close: " + title);
 }
 
 void User::ChoosesMenu(const std::vector<std::string>& captions) {
-  const Form* form = WindowInUse("choose a menu item in");
-  if (!form) return;
-  const std::vector<MenuItem*>* items = &form->menus();
-  MenuItem* item = nullptr;
+  const Window* window = WindowFor("choose a menu item in");
+  if (!window) return;
+  const NativeMenu* items = window->menu.get();
+  const NativeMenuItem* item = nullptr;
   for (const std::string& caption : captions) {
-    const auto found = std::find_if(items->begin(), items->end(), [&](const MenuItem* candidate) {
-      return IsCalled(*candidate, caption);
-    });
+    const auto found =
+        std::find_if(items->begin(), items->end(),
+                     [&](const NativeMenuItem& candidate) { return IsCalled(candidate, caption); });
     if (found == items->end()) return Complain("there is no menu item " + caption);
-    item = *found;
-    if (!item->IsEnabled()) return Complain("the menu item is greyed: " + caption);
-    items = &item->items();
+    item = &*found;
+    if (!item->isEnabled) return Complain("the menu item is greyed: " + caption);
+    items = &item->items;
   }
-  if (item) item->Choose();
+  if (item) item->item->Choose();
 }
 
 void User::Clicks(const std::string& text) {
-  const Form* form = WindowInUse("click in");
-  if (!form) return;
-  if (const auto [list, index] = FindRow(*form, text); list) {
-    list->Focus();
-    return list->Selected(index);
-  }
-  Platform::Button* button = FindButton(*form, text);
+  Window* window = WindowFor("click in");
+  if (!window) return;
+  if (const auto [list, row] = FindRow(*window, text); list) return ClickRow(*window, *list, row);
+  NativeControl* button = FindButton(*window, text);
   if (!button) return Complain("there is nothing to click: " + text);
-  button->Focus();
-  button->Click();
+  window->FocusByClick(*button);
+  button->button().Click();
 }
 
 void User::DoubleClicks(const std::string& row) {
-  const Form* form = WindowInUse("click in");
-  if (!form) return;
-  const auto [list, index] = FindRow(*form, row);
+  Window* window = WindowFor("click in");
+  if (!window) return;
+  const auto [list, index] = FindRow(*window, row);
   if (!list) return Complain("there is no row " + row);
-  list->Focus();
-  list->Selected(index);
-  list->DoubleClicked();
+  const Form& form = window->form;
+  Platform::ListBox& clicked = list->listBox();
+  ClickRow(*window, *list, index);
+  // The first click may have led elsewhere.
+  if (ActiveForm() == &form && form.IsLoaded()) clicked.DoubleClicked();
 }
 
 std::string User::Hears() const {
-  const Form* form = WindowInUse("listen to");
-  if (form && keyboard_.menu().IsOpen()) return keyboard_.menu().Heard();
-  return form ? Heard(*form) : "";
+  const Window* window = WindowFor("listen to");
+  if (!window) return "";
+  return keyboard_.menu().IsOpenIn(*window) ? keyboard_.menu().Heard() : Heard(*window);
 }
 
 std::vector<std::string> User::HearsOnOpening() const {
-  const Form* form = WindowInUse("listen to");
-  return form ? HeardOnOpening(*form) : std::vector<std::string>{};
+  const Window* window = WindowFor("listen to");
+  return window ? HeardOnOpening(*window) : std::vector<std::string>{};
 }
 
 std::string User::SeesWindow() const {
   const Screen& screen = TheMachine().screen;
   if (const OpenBox* box = screen.BoxInUse()) return box->box().title;
   if (!screen.dialogs.empty()) return screen.dialogs.back();
-  return ActiveForm() ? ActiveForm()->title() : "";
+  const Window* window = WindowInUse();
+  return window ? window->title : "";
 }
 
 Box User::LastBox() const {

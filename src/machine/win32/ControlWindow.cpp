@@ -1,7 +1,7 @@
 #include "machine/win32/ControlWindow.h"
 
 #include <algorithm>
-#include <map>
+#include <array>
 #include <new>
 
 #include "base/RuntimeError.h"
@@ -69,8 +69,8 @@ constexpr WPARAM CtrlA = 1;
 
 // The system's own procedure of a kind of control.
 WNDPROC& SystemProc(Control::Kind kind) {
-  static std::map<Control::Kind, WNDPROC> procs;
-  return procs[kind];
+  static std::array<WNDPROC, 4> procs{};
+  return procs.at(static_cast<size_t>(kind));
 }
 
 LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
@@ -154,7 +154,8 @@ void ControlWindow::ShowCaption() const {
   SetWindowTextA(window_, control_.caption().c_str());
 }
 
-void ControlWindow::ShowState() const {
+void ControlWindow::ShowState() {
+  DrawRows();  // a list that does not draw looks hidden to the system, and would be shown by that
   for (const HWND window : {label_, window_}) {
     if (!window) continue;
     EnableWindow(window, control_.IsEnabled());
@@ -170,20 +171,29 @@ void ControlWindow::SelectAll() const {
   SendMessageA(window_, EM_SETSEL, 0, -1);
 }
 
+void ControlWindow::ShowRows(const Display::Font& font) {
+  const auto& list = static_cast<const ListBox&>(control_);
+  PutOffDrawing();
+  SendMessageA(window_, LB_RESETCONTENT, 0, 0);
+  rowCount_ = rowRoom_ = rowWidth_ = 0;
+  size_t bytes = 0;
+  for (int i = 0; i < list.count(); ++i) bytes += list.row(i).size() + 1;
+  MakeRoom(list.count(), bytes);
+  for (int i = 0; i < list.count(); ++i) AddRow(list.row(i), font);
+  ShowSelection();
+  ShowRowWidth();
+  DrawRows();
+}
+
 void ControlWindow::AddRow(const std::string& row, const Display::Font& font) {
   PutOffDrawing();
-  // The list would otherwise grow in small steps, and be copied at each of them.
+  const int width = font.Width(row);
   constexpr int LeastRoom = 256;
-  if (rowCount_ == rowRoom_) {
-    const int growth = std::max(LeastRoom, rowCount_);
-    SendMessageA(window_, LB_INITSTORAGE, static_cast<WPARAM>(growth), 0);
-    rowRoom_ += growth;
-  }
+  if (rowCount_ == rowRoom_) MakeRoom(std::max(LeastRoom, rowCount_), 0);
   if (SendMessageA(window_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.c_str())) < 0) {
     throw std::bad_alloc();
   }
   ++rowCount_;
-  const int width = font.Width(row);
   if (width > rowWidth_) {
     rowWidth_ = width;
     if (isDrawing_) ShowRowWidth();
@@ -196,15 +206,17 @@ void ControlWindow::RemoveRow(int index) {
   --rowCount_;
 }
 
-void ControlWindow::ClearRows() {
-  PutOffDrawing();
-  SendMessageA(window_, LB_RESETCONTENT, 0, 0);
-  rowCount_ = rowRoom_ = rowWidth_ = 0;
+// By itself the list would grow in small steps, and be copied at each of them.
+void ControlWindow::MakeRoom(int rows, size_t bytes) {
+  SendMessageA(window_, LB_INITSTORAGE, static_cast<WPARAM>(rows), static_cast<LPARAM>(bytes));
+  rowRoom_ += rows;
 }
 
-// A list that draws itself at every row takes minutes for as many as a long track has.
+// A list that draws itself at every row takes minutes for as many as a long track has. A hidden one
+// draws nothing, and would be shown when it is told to draw again.
 void ControlWindow::PutOffDrawing() {
-  if (!isDrawing_ || !PostMessageA(GetParent(window_), RowsWait, 0, 0)) return;
+  if (!isDrawing_ || !control_.IsVisible()) return;
+  if (!PostMessageA(GetParent(window_), RowsWait, 0, 0)) return;
   SendMessageA(window_, WM_SETREDRAW, FALSE, 0);
   isDrawing_ = false;
 }

@@ -26,13 +26,16 @@ class ControlWindow {
   void Place(const Layout::Place& place) const;
 
   void ShowCaption() const;
-  void ShowState() const;
+  void ShowState();
   void ShowText() const;
   void SelectAll() const;
-  // Rows are drawn when the program has come to rest: the parent then gets RowsWait.
+  // All rows anew, and which of them is selected. Fails when memory has run out; there are then
+  // none of them, or some.
+  void ShowRows(const Display::Font& font);
+  // Rows that come and go one by one are drawn when the program has come to rest: the parent then
+  // gets RowsWait. AddRow fails when memory has run out; the rows are then as they were.
   void AddRow(const std::string& row, const Display::Font& font);
   void RemoveRow(int index);
-  void ClearRows();
   void ShowSelection() const;
   void DrawRows();
 
@@ -44,6 +47,7 @@ class ControlWindow {
 
  private:
   void ShowRowWidth() const;
+  void MakeRoom(int rows, size_t bytes);
   void PutOffDrawing();
 
   Control& control_;

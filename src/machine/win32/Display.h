@@ -1,6 +1,7 @@
 // The screen, its density, and the user's font for windows.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 
@@ -42,10 +43,15 @@ class Font {
     void operator()(HDC context) const { DeleteDC(context); }
   };
 
+  // The characters that stand alone in every code page.
+  static constexpr char FirstPlain = ' ';
+  static constexpr char LastPlain = '~';
+
   std::unique_ptr<HFONT, FontDeleter> handle_;
   std::unique_ptr<HDC, ContextDeleter> context_;
   HGDIOBJ previous_ = nullptr;
   Layout::Units units_{};
+  std::array<int, LastPlain - FirstPlain + 1> plainWidths_{};
 };
 
 // The part of a window's screen that no taskbar covers.

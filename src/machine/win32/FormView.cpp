@@ -51,18 +51,20 @@ void FormView::AllSelected(TextBox& box) {
   native_->Of(box).SelectAll();
 }
 
+void FormView::RowsSet(ListBox& list) {
+  native_->Of(list).ShowRows(native_->font());
+}
 void FormView::RowAdded(ListBox& list) {
   native_->Of(list).AddRow(list.row(list.count() - 1), native_->font());
 }
-
 void FormView::RowRemoved(ListBox& list, int index) {
   native_->Of(list).RemoveRow(index);
 }
-void FormView::RowsCleared(ListBox& list) {
-  native_->Of(list).ClearRows();
-}
 void FormView::SelectionChanged(ListBox& list) {
   native_->Of(list).ShowSelection();
+}
+int FormView::SelectedRow(const ListBox& list) const {
+  return native_->Of(list).SelectedRow();
 }
 
 }  // namespace Platform

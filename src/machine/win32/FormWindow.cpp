@@ -139,11 +139,7 @@ void FormView::Native::MakeControls() {
     ControlWindow& child = controls_.back();
     child.SetFont(*font_);
     if (control->kind() == Control::Kind::TextBox) ShowText(static_cast<TextBox&>(*control));
-    if (control->kind() == Control::Kind::ListBox) {
-      const auto& list = static_cast<const ListBox&>(*control);
-      for (int i = 0; i < list.count(); ++i) child.AddRow(list.row(i), *font_);
-      child.ShowSelection();
-    }
+    if (control->kind() == Control::Kind::ListBox) child.ShowRows(*font_);
     before = control;
   }
   if (Button* const button = form_.defaultButton()) {
