@@ -38,6 +38,15 @@ class RandomText {
     return text;
   }
 
+  // The text with one place in it stretched beyond the length at which a line comes in pieces.
+  std::string Stretched(std::string text) {
+    const std::string fillers[] = {"0", "9", " ", "x", "=", "\n", "1234567890", "a=", "0.", "- "};
+    const std::string& filler = fillers[Below(std::size(fillers))];
+    std::string stretch;
+    for (const size_t size = 66000 + Below(70000); stretch.size() < size;) stretch += filler;
+    return text.insert(Below(text.size() + 1), stretch);
+  }
+
  private:
   std::mt19937 random_;
 };

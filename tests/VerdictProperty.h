@@ -22,22 +22,49 @@ struct VerdictProperty {
   int32_t lastCode;
 };
 
-// Both say the same of thousands of files, whatever the user's separators are and in however small
-// pieces the files are read.
+// One file, however small the pieces are in which it is read and whatever the separators are.
+inline Reference::Verdict VerdictOf(Simulated::Machine& machine, const VerdictProperty& property,
+                                    const std::string& bytes, size_t mostAtOnce, bool hasComma) {
+  machine.files.Put(property.path, bytes);
+  machine.files.LimitReads(mostAtOnce);
+  machine.locale.SetSeparators(hasComma ? "," : ".", hasComma ? "." : ",");
+  Reference::Verdict found{};
+  found.result = property.check(property.path, found.code, found.message);
+  return found;
+}
+
+// Both say the same of thousands of files.
 inline void ExpectTheVerdictsOfThePlainChecker(Simulated::Machine& machine, RandomText random,
                                                const VerdictProperty& property) {
   std::map<int32_t, int> timesFound;
   for (int i = 0; i < 6000; ++i) {
     const std::string bytes = property.makeFile(random);
-    machine.files.Put(property.path, bytes);
-    machine.files.LimitReads(1 + random.Below(40));
-    machine.locale.SetSeparators(i % 2 ? "," : ".", i % 2 ? "." : ",");
-    Reference::Verdict found{};
-    found.result = property.check(property.path, found.code, found.message);
+    const auto found = VerdictOf(machine, property, bytes, 1 + random.Below(40), i % 2 != 0);
     ASSERT_EQ(found, property.reference(property.path, bytes)) << testing::PrintToString(bytes);
     ++timesFound[found.code];
   }
   for (int32_t code = property.firstCode; code <= property.lastCode; ++code) {
     EXPECT_GT(timesFound[code], 20) << "files with code " << code << " hardly occurred";
   }
+}
+
+// Both also say the same of files with a very long line, but that a message quotes less of it.
+inline void ExpectTheVerdictsOnLongLines(Simulated::Machine& machine, RandomText random,
+                                         const VerdictProperty& property) {
+  const auto ends = [](const std::string& message) {
+    return message.size() < 100 ? message
+                                : message.substr(0, 80) + message.substr(message.size() - 15);
+  };
+  std::map<int32_t, int> timesFound;
+  for (int i = 0; i < 150; ++i) {
+    const std::string bytes = random.Stretched(property.makeFile(random));
+    const auto found = VerdictOf(machine, property, bytes, 100 + random.Below(90000), i % 2 != 0);
+    const auto wanted = property.reference(property.path, bytes);
+    const auto what = [&] { return testing::PrintToString(bytes.substr(0, 300)); };
+    ASSERT_EQ(found.result, wanted.result) << what();
+    ASSERT_EQ(found.code, wanted.code) << what();
+    ASSERT_EQ(ends(found.message), ends(wanted.message)) << what();
+    ++timesFound[found.code];
+  }
+  EXPECT_GT(timesFound.size(), 2U) << "hardly a fault occurred";
 }

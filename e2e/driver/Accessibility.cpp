@@ -34,16 +34,10 @@ std::vector<Control> VisibleControls(const Window& window) {
   std::vector<Control> controls;
   for (const Window& child : window.children()) {
     if (!child.IsVisible()) continue;
-    controls.push_back({child, RoleOf(child), child.style(), child.rectangle(), child.text(), ""});
-  }
-  for (size_t i = 0; i < controls.size(); i++) {
-    Control& control = controls[i];
-    if (control.role == Role::Button || control.role == Role::Label) {
-      control.name = WithoutAccessKey(control.text);
-    } else if (control.role == Role::Field && i > 0 &&
-               (controls[i - 1].role == Role::Label || controls[i - 1].role == Role::GroupBox)) {
-      control.name = WithoutAccessKey(controls[i - 1].text);
-    }
+    const Role role = RoleOf(child);
+    const bool hasName = role != Role::GroupBox && role != Role::Other;
+    controls.push_back(
+        {child, role, child.style(), child.rectangle(), child.text(), hasName ? child.name() : ""});
   }
   return controls;
 }

@@ -2,46 +2,15 @@
 
 #include <windows.h>
 
-#include <array>
-#include <cctype>
 #include <stdexcept>
-#include <utility>
 #include <vector>
+
+#include "tests/machine/RealMachineKeys.h"
 
 namespace E2e::Keyboard {
 namespace {
 
-WORD KeyCode(const std::string& name) {
-  static constexpr std::array<std::pair<const char*, WORD>, 18> named{{
-      {"Ctrl", VK_CONTROL},
-      {"Shift", VK_SHIFT},
-      {"Alt", VK_MENU},
-      {"Enter", VK_RETURN},
-      {"Escape", VK_ESCAPE},
-      {"Tab", VK_TAB},
-      {"Space", VK_SPACE},
-      {"Backspace", VK_BACK},
-      {"Delete", VK_DELETE},
-      {"Home", VK_HOME},
-      {"End", VK_END},
-      {"Up", VK_UP},
-      {"Down", VK_DOWN},
-      {"Left", VK_LEFT},
-      {"Right", VK_RIGHT},
-      {"F4", VK_F4},
-      {"PageUp", VK_PRIOR},
-      {"PageDown", VK_NEXT},
-  }};
-  for (const auto& [key, code] : named) {
-    if (name == key) return code;
-  }
-  if (name.size() == 1 && std::isalnum(static_cast<unsigned char>(name[0]))) {
-    return static_cast<WORD>(std::toupper(static_cast<unsigned char>(name[0])));
-  }
-  throw std::runtime_error("no such key: " + name);
-}
-
-INPUT Stroke(WORD code, DWORD flags) {
+INPUT InputOf(WORD code, DWORD flags) {
   INPUT input{};
   input.type = INPUT_KEYBOARD;
   input.ki.wVk = code;
@@ -61,17 +30,17 @@ void Send(std::vector<INPUT>& strokes) {
 }  // namespace
 
 void Press(const std::string& keys) {
+  const auto stroke = KeyNames::StrokeNamed(keys);
+  if (!stroke) throw std::runtime_error("no such key: " + keys);
   std::vector<WORD> codes;
-  size_t start = 0;
-  while (start <= keys.size()) {
-    const size_t plus = std::min(keys.find('+', start), keys.size());
-    codes.push_back(KeyCode(keys.substr(start, plus - start)));
-    start = plus + 1;
-  }
+  if (stroke->isCtrl) codes.push_back(VK_CONTROL);
+  if (stroke->isShift) codes.push_back(VK_SHIFT);
+  if (stroke->isAlt) codes.push_back(VK_MENU);
+  codes.push_back(stroke->key);
   std::vector<INPUT> strokes;
-  for (const WORD code : codes) strokes.push_back(Stroke(code, 0));
+  for (const WORD code : codes) strokes.push_back(InputOf(code, 0));
   for (auto code = codes.rbegin(); code != codes.rend(); ++code) {
-    strokes.push_back(Stroke(*code, KEYEVENTF_KEYUP));
+    strokes.push_back(InputOf(*code, KEYEVENTF_KEYUP));
   }
   Send(strokes);
 }

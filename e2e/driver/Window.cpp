@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "e2e/driver/Wait.h"
+#include "tests/machine/RealMachineNames.h"
 
 namespace E2e {
 namespace {
@@ -94,9 +95,10 @@ std::optional<Window> Window::previousSibling() const {
 }
 
 std::string Window::name() const {
-  if (IsClass("Button") || IsClass("Static")) return WithoutAccessKey(text());
-  const auto label = previousSibling();
-  return label && label->IsClass("Static") ? WithoutAccessKey(label->text()) : "";
+  const HWND giver = NativeNames::GiverOf(handle_);
+  if (!giver) return "";
+  const std::string text = Window(giver).text();
+  return NativeNames::MarksAccessKey(giver) ? WithoutAccessKey(text) : text;
 }
 
 Window Window::control(const std::string& name) const {

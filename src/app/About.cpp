@@ -14,6 +14,7 @@ namespace About {
 
 namespace {
 
+// The box must come without a game too: it is what a user reads to whoever helps them.
 std::string GameFolderIfInstalled() {
   try {
     return Application::GameFolder();

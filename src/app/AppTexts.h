@@ -30,6 +30,8 @@ struct AppTextTable {
   LangText XHelp{"XHelp", "&Help"};
   LangText HViewDocs{"HViewDocs", "View &Documentation"};
   LangText HWebsites{"HWebsites", "&Visit Websites"};
+  LangText HWGLW = FixedText("&Gloamworks");
+  LangText HWORV = FixedText("&Orvane Interactive");
   LangText HCheckForUpdates{"HCheckForUpdates", "&Check for Updates"};
   LangText HAbout{"HAbout", "&About"};
 

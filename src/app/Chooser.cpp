@@ -21,6 +21,7 @@ Chooser::Chooser(const LangText& title, const LangText& prompt, std::vector<Entr
 }
 
 void Chooser::Form_Load() {
+  // Looked up at each opening: a translator may have changed the language file meanwhile.
   std::vector<std::string> rows;
   for (const Entry& entry : entries_) rows.push_back(GetLangString(entry.text));
   What.SetRows(std::move(rows), 0);
@@ -28,6 +29,8 @@ void Chooser::Form_Load() {
 
 void Chooser::Submit_Click() {
   if (What.selected() < 0) return;
+  // The chooser goes first, so that a box of the action comes over the window that stays. Left open,
+  // it would be what a tool that closes goes back to.
   if (whileRunning_ == MainWindow::ComesBack) {
     GoBack();
   } else {

@@ -1,5 +1,5 @@
-// The actions that the menus, their shortcuts and the choosers run. Each only calls the tool of its
-// name, and fails as that does.
+// The actions behind the menu items and the entries of the choosers. Each hands over to the tool
+// that does the work, over the window in use or in its place, and fails as that does.
 #pragma once
 
 namespace Interface {

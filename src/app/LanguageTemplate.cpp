@@ -41,7 +41,7 @@ std::string LanguageTemplate() {
   std::string file;
   std::set<std::string> keys;
   for (const LangText& text : AllTexts()) {
-    if (keys.insert(text.key).second) {
+    if (text.key && keys.insert(text.key).second) {
       file.append(text.key).append("=").append(text.english).append("\r\n");
     }
   }

@@ -6,7 +6,7 @@
 
 #include "base/LangText.h"
 
-// Every text of the pack, table by table.
+// Every text of the pack, table by table, those without a key among them.
 std::vector<LangText> AllTexts();
 
 // A language file with every key once and its English default, in the order of AllTexts: the file

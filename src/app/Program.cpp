@@ -28,6 +28,7 @@ std::string VersionSuffix(const Platform::ProgramVersion& version) {
 
 std::string Title(const Platform::ProgramVersion& version) {
   std::string title = Name + VersionSuffix(version);
+  // The version resource has no place for a release candidate but its description in words.
   const size_t tag = version.fileDescription.find("RC");
   if (StatusOf(version) == ReleaseStatus::Release && tag != std::string::npos) {
     title += version.fileDescription.substr(tag);

@@ -60,8 +60,8 @@ SK2UtilityPack::SK2UtilityPack()
       XHelp(*this, {.text = AppTexts.XHelp}),
       HViewDocs(XHelp, {.text = AppTexts.HViewDocs}),
       HWebsites(XHelp, {.text = AppTexts.HWebsites}),
-      HWGLW(HWebsites, {.text = FixedText("&Gloamworks")}),
-      HWORV(HWebsites, {.text = FixedText("&Orvane Interactive")}),
+      HWGLW(HWebsites, {.text = AppTexts.HWGLW}),
+      HWORV(HWebsites, {.text = AppTexts.HWORV}),
       HCheckForUpdates(XHelp, {.text = AppTexts.HCheckForUpdates}),
       HAbout(XHelp, {.text = AppTexts.HAbout}) {
   OnLoad = [this] { Form_Load(); };
@@ -84,11 +84,12 @@ void SK2UtilityPack::Form_Load() {
   Try([this] { SetTitle(Program::Title(Platform::ReadProgramVersion())); });
   Try([] { Platform::HoldNamedMutex("ORVSK2Pack"); });
   Try(Platform::OpenSoundDevice);
-  Try([] { SharedDialogs().Translate(); });
+  Try(TranslateSharedDialogs);
   Try([this] { TranslateMenu(); });
 }
 
 void SK2UtilityPack::Form_KeyDown(Platform::KeyEvent& key) {
+  // Ctrl alone: with Shift or Alt as well the keys belong to screen readers and other programs.
   if (key.shift != Platform::Shift::Ctrl) return;
   key.isHandled = true;
   switch (key.code) {

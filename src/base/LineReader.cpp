@@ -2,42 +2,56 @@
 
 #include <utility>
 
-#include "base/RuntimeError.h"
-
 namespace {
-constexpr size_t BlockSize = 1 << 16;
 // What FindCr may look at behind the bytes that were read.
 constexpr size_t Margin = sizeof(uint64_t);
 }  // namespace
 
-LineReader::LineReader(Source source) : source_(std::move(source)), buffer_(BlockSize + Margin) {}
+LineReader::LineReader(Source source)
+    : source_(std::move(source)), buffer_(LongestPiece + Margin) {}
 
 // The next line where its end is not, or not wholly, among the bytes that were read, or is a CR
-// alone.
+// alone, or where more of the line before is to be passed over.
 bool LineReader::NextWithAnyEnd(std::string_view& line) {
-  if (!PassLf()) return false;
-  size_t length = FindCr(buffer_.data() + begin_, end_ - begin_);
-  while (length >= end_ - begin_) {
-    const size_t searched = end_ - begin_;
-    if (searched > LongestLine || !Refill()) break;
-    length = searched + FindCr(buffer_.data() + begin_ + searched, end_ - begin_ - searched);
-  }
-  length = std::min(length, end_ - begin_);
-  if (length > LongestLine) throw RuntimeError(RuntimeError::OutOfMemory);
-  line = {buffer_.data() + begin_, length};
-  return PassCr(length);
+  PassRest();
+  return PassLf() && Take(line);
+}
+
+bool LineReader::NextPiece(std::string_view& piece) {
+  if (!hasRest_) return false;
+  Take(piece);
+  // The line's end may have come directly behind the piece before.
+  return !piece.empty();
 }
 
 bool LineReader::Skip() {
-  if (!PassLf()) return false;
-  bool isEmpty = true;
-  for (;;) {
-    const size_t length = FindCr(buffer_.data() + begin_, end_ - begin_);
-    if (length < end_ - begin_) return PassCr(length);
-    isEmpty = isEmpty && begin_ == end_;
-    begin_ = end_;
-    if (!Refill()) return !isEmpty;
+  PassRest();
+  std::string_view piece;
+  if (!PassLf() || !Take(piece)) return false;
+  PassRest();
+  return true;
+}
+
+// Takes the unread bytes up to the end of the line, or as many as fit the buffer. Returns false if
+// there is no line at all.
+bool LineReader::Take(std::string_view& piece) {
+  size_t length = FindCr(buffer_.data() + begin_, end_ - begin_);
+  while (length >= end_ - begin_) {
+    const size_t searched = end_ - begin_;
+    if (searched == LongestPiece || !Refill()) break;
+    length = searched + FindCr(buffer_.data() + begin_ + searched, end_ - begin_ - searched);
   }
+  length = std::min(length, end_ - begin_);
+  piece = {buffer_.data() + begin_, length};
+  hasRest_ = length == LongestPiece;
+  if (!hasRest_) return PassCr(length);
+  begin_ = end_;
+  return true;
+}
+
+// Passes over what is left of the line that was given last.
+void LineReader::PassRest() {
+  for (std::string_view piece; hasRest_;) Take(piece);
 }
 
 // Goes on behind the unread line of that length. The text may end in place of the CR.
@@ -62,15 +76,14 @@ bool LineReader::PassLf() {
   return true;
 }
 
-// Reads one more block behind the unread bytes, which may move. False at the end of the source.
+// Reads one more block behind the unread bytes, which must leave room for it and may move. False at
+// the end of the source.
 bool LineReader::Refill() {
   if (isAtEnd_) return false;
   std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
   end_ -= begin_;
   begin_ = 0;
-  const size_t capacity = buffer_.size() - Margin;
-  if (capacity - end_ < BlockSize / 2) buffer_.resize(capacity * 2 + Margin);
-  const size_t count = source_(buffer_.data() + end_, buffer_.size() - Margin - end_);
+  const size_t count = source_(buffer_.data() + end_, LongestPiece - end_);
   end_ += count;
   isAtEnd_ = count == 0;
   return !isAtEnd_;

@@ -16,35 +16,43 @@ class LineReader {
   // Fills a buffer with the next bytes of the source and returns how many; 0 at the end.
   using Source = std::function<size_t(char* buffer, size_t size)>;
 
-  // The longest line, in bytes. No file of the game comes near it.
-  static constexpr size_t LongestLine = 1 << 20;
+  // The most that is given of a line at once, in bytes. No line of the game comes near it.
+  static constexpr size_t LongestPiece = 1 << 16;
 
   explicit LineReader(Source source);
 
   // Takes the next line, without its end. A line ends at CR or CR LF; a lone LF is part of the
   // line. A text that ends in a line end has no further empty line behind it.
-  //   line   valid until the next call.
-  // Returns false at the end of the text. Fails with RuntimeError OutOfMemory at a line longer than
-  // LongestLine, and with whatever the source fails with.
+  //   line   valid until the next call. If it has LongestPiece bytes, more of the line may follow:
+  //          NextPiece gives it, and otherwise the next call passes over it.
+  // Returns false at the end of the text. Fails with whatever the source fails with.
   bool Next(std::string_view& line);
 
+  // Takes the next piece of the line that Next has begun, again up to LongestPiece bytes.
+  // Returns false if the line has been given whole. Fails as Next does.
+  bool NextPiece(std::string_view& piece);
+
   // Passes over the next line, which may be of any length. Returns false at the end of the text.
-  // Fails with whatever the source fails with.
+  // Fails as Next does.
   bool Skip();
 
  private:
   static size_t FindCr(const char* text, size_t size);
   bool NextWithAnyEnd(std::string_view& line);
+  bool Take(std::string_view& piece);
+  void PassRest();
   bool PassCr(size_t length);
   bool PassLf();
   bool Refill();
 
   Source source_;
-  // The unread bytes are buffer_[begin_, end_). FindCr looks a few bytes further.
+  // The unread bytes are buffer_[begin_, end_), at most LongestPiece. FindCr looks a few bytes
+  // further.
   std::vector<char> buffer_;
   size_t begin_ = 0;
   size_t end_ = 0;
   bool isAtEnd_ = false;
+  bool hasRest_ = false;    // more of the line that was given last may follow
   bool endedInCr_ = false;  // CR was the last byte of a block: an LF that comes next belongs to it
 };
 
@@ -76,8 +84,7 @@ inline bool LineReader::Next(std::string_view& line) {
   const size_t length = FindCr(unread, end_ - begin_);
   // Nearly every line ends in CR LF. Adding one or two according to the next byte would do for all,
   // but each line would then wait for that byte of the line before.
-  if (length + 1 >= end_ - begin_ || length > LongestLine || unread[length + 1] != '\n')
-      [[unlikely]] {
+  if (length + 1 >= end_ - begin_ || hasRest_ || unread[length + 1] != '\n') [[unlikely]] {
     return NextWithAnyEnd(line);
   }
   line = {unread, length};

@@ -16,6 +16,8 @@ void OnEnd(std::function<void()> destroy) {
 }
 
 void End() {
+  // One by one from the back: an object that goes may still use those that were made before it, and
+  // may even make one anew.
   while (!Destroyers().empty()) {
     const auto destroy = std::move(Destroyers().back());
     Destroyers().pop_back();

@@ -27,6 +27,13 @@ std::string GameFolder() {
   return location;
 }
 
+std::string VehicleFolder() {
+  return GameFolder() + "\\vehicles";
+}
+std::string TrackFolder() {
+  return GameFolder() + "\\tracks";
+}
+
 std::string GamePublisher() {
   return UninstallValue("Publisher");
 }

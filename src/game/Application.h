@@ -11,6 +11,10 @@ namespace Application {
 // Fails with RuntimeError InvalidCall, cause GameNotInstalled, if the game is not installed.
 std::string GameFolder();
 
+// Where the game keeps its vehicles and its tracks. They fail as GameFolder does.
+std::string VehicleFolder();
+std::string TrackFolder();
+
 // The game's publisher, version and contact address; empty if the game is not installed.
 std::string GamePublisher();
 std::string GameVersion();

@@ -4,24 +4,26 @@
 #include "game/FileDialogTexts.h"
 #include "text/StringTable.h"
 
-void FileDialogs::Translate() {
+const FileDialogs& SharedDialogs() {
+  return PerRun<FileDialogs>();
+}
+
+// The order of the lookups is that in which the texts get into an empty language file.
+void TranslateSharedDialogs() {
   const auto set = [](Platform::FileDialog& dialog, const LangText& title, const LangText& filter,
                       const std::string& pattern) {
     dialog.title = GetLangString(title);
     dialog.fileType = GetLangString(filter) + " (" + pattern + ")";
     dialog.pattern = pattern;
   };
+  auto& dialogs = PerRun<FileDialogs>();
   const auto& texts = FileDialogTexts;
-  set(OpenWav, texts.OpenWavDlgTitle, texts.OpenWavDlgFilter, "*.wav");
-  set(SaveTrack, texts.SaveTrackDlgTitle, texts.TrackFilter, "*.trk");
-  set(OpenTrack, texts.OpenTrackDlgTitle, texts.TrackFilter, "*.trk");
-  set(OpenVehicle, texts.OpenVehicleDlgTitle, texts.VehicleFilter, "*.vhc");
-  set(SaveVehicle, texts.SaveVehicleDlgTitle, texts.VehicleFilter, "*.vhc");
+  set(dialogs.OpenWav, texts.OpenWavDlgTitle, texts.OpenWavDlgFilter, "*.wav");
+  set(dialogs.SaveTrack, texts.SaveTrackDlgTitle, texts.TrackFilter, "*.trk");
+  set(dialogs.OpenTrack, texts.OpenTrackDlgTitle, texts.TrackFilter, "*.trk");
+  set(dialogs.OpenVehicle, texts.OpenVehicleDlgTitle, texts.VehicleFilter, "*.vhc");
+  set(dialogs.SaveVehicle, texts.SaveVehicleDlgTitle, texts.VehicleFilter, "*.vhc");
   // A track gets its extension from the tool that writes it.
-  OpenVehicle.defaultExtension = "vhc";
-  SaveVehicle.defaultExtension = "vhc";
-}
-
-FileDialogs& SharedDialogs() {
-  return PerRun<FileDialogs>();
+  dialogs.OpenVehicle.defaultExtension = "vhc";
+  dialogs.SaveVehicle.defaultExtension = "vhc";
 }

@@ -1,4 +1,5 @@
-// The file dialogs that the tools share. Each tool sets the initial folder before it shows one.
+// The file dialogs that the tools share: their titles and kinds of files. A tool says by
+// game/FileChoice.h what else its use of one needs.
 #pragma once
 
 #include "ui/FileDialog.h"
@@ -9,10 +10,10 @@ struct FileDialogs {
   Platform::FileDialog OpenTrack{Platform::FileDialog::Kind::Open};
   Platform::FileDialog OpenVehicle{Platform::FileDialog::Kind::Open};
   Platform::FileDialog SaveVehicle{Platform::FileDialog::Kind::Save};
-
-  // Sets the titles, filters and default extensions, in the user's language.
-  void Translate();
 };
 
-// The run's dialogs.
-FileDialogs& SharedDialogs();
+// The run's dialogs. Nobody changes them but TranslateSharedDialogs.
+const FileDialogs& SharedDialogs();
+
+// Sets their titles, filters and default extensions, in the user's language.
+void TranslateSharedDialogs();

@@ -36,12 +36,12 @@ std::string AsText(const Platform::RegistryValue& value) {
 
 std::string ReadRegistryValue(Platform::RegistryRoot root, const std::string& subkey,
                               const std::string& name) {
-  for (const auto view : {Platform::RegistryView::Of32Bit, Platform::RegistryView::Of64Bit}) {
-    if (const auto value = Platform::QueryRegistryValue(root, view, subkey, name, LongestValue)) {
-      return AsText(*value);
-    }
-  }
-  return "";
+  using Platform::RegistryView;
+  const auto view = Platform::HasRegistryKey(root, RegistryView::Of32Bit, subkey)
+                        ? RegistryView::Of32Bit
+                        : RegistryView::Of64Bit;
+  const auto value = Platform::QueryRegistryValue(root, view, subkey, name, LongestValue);
+  return value ? AsText(*value) : "";
 }
 
 }  // namespace Registry

@@ -51,7 +51,10 @@ struct InternetTextTable {
   LangText CopyIPButton{"CopyIPButton", "&Copy IP"};
   LangText PIPVPrompt{"PIPVPrompt", "IP:"};
 
-  // The package downloader.
+  // The package downloader. The kinds of add-ons are the same in every language.
+  LangText Car = FixedText("Car");
+  LangText Track = FixedText("Track");
+  LangText Language = FixedText("Language");
   LangText PackageDownloaderTitle{"PackageDownloaderTitle", "SK2 Package Downloader"};
   LangText PackageDownloaderText{"PackageDownloaderText", "Select SK2 component:"};
   LangText FileListTitle{"FileListTitle", "Download directory"};

@@ -1,5 +1,5 @@
-// The lines of a file that may be too large to be held in memory. Reading them is a long step:
-// other programs are answered between its blocks.
+// The lines of a file of the game, which may be too large to be held in memory. Reading them is a
+// long step: other programs are answered between its blocks.
 #pragma once
 
 #include <string>
@@ -7,28 +7,32 @@
 
 #include "base/LineReader.h"
 #include "platform/Files.h"
-#include "platform/LongStep.h"
 
 namespace Platform {
 
 class FileLines {
  public:
   // Fails as FileReader does.
-  explicit FileLines(const std::string& path)
-      : file_(path), lines_([this](char* buffer, size_t size) {
-          AnswerMessages();
-          return file_.Read(buffer, size);
-        }) {}
+  explicit FileLines(const std::string& path);
   FileLines(const FileLines&) = delete;
   FileLines& operator=(const FileLines&) = delete;
 
-  // As LineReader's. They also fail as FileReader::Read does.
-  bool Next(std::string_view& line) { return lines_.Next(line); }
+  // As LineReader's, but a line has no pieces: one of LongestPiece or more is given as ShortLine
+  // shortens it. They also fail as FileReader::Read does.
+  bool Next(std::string_view& line) {
+    if (!lines_.Next(line)) return false;
+    if (line.size() >= LineReader::LongestPiece) [[unlikely]]
+      line = Shortened(line);
+    return true;
+  }
   bool Skip() { return lines_.Skip(); }
 
  private:
+  std::string_view Shortened(std::string_view beginning);
+
   FileReader file_;
   LineReader lines_;
+  std::string shortened_;
 };
 
 }  // namespace Platform

@@ -6,6 +6,7 @@
 namespace Platform {
 
 std::optional<double> ParseNumber(std::string_view text) {
+  // The short cut first: see ParsePlainInteger for what it saves.
   int32_t plain = 0;
   if (ParsePlainInteger(text, plain)) return plain;
   return ParseLocaleNumber(text);

@@ -16,6 +16,7 @@ size_t LastBackslash(std::string_view path) {
   size_t last = std::string_view::npos;
   for (size_t i = 0; i < path.size(); ++i) {
     if (path[i] == '\\') last = i;
+    // The second byte of a Japanese or Chinese character may be the byte of a backslash.
     if (IsLeadByte(path[i])) ++i;
   }
   return last;

@@ -20,6 +20,9 @@ struct RegistryValue {
   std::string bytes;  // as stored: a string with or without a final NUL, a number lowest byte first
 };
 
+// True if there is such a key and it may be queried.
+bool HasRegistryKey(RegistryRoot root, RegistryView view, const std::string& subkey);
+
 // Opens a key for querying only, reads one value and closes the key again.
 //   subkey    path below the root, "\" between keys.
 //   capacity  the most bytes that the value may have.

@@ -20,6 +20,7 @@ void HighScores::ShowRecords(std::vector<std::string> records) {
     if (auto track = RecordFile::TrackOf(record)) tracks.push_back(std::move(*track));
   }
   Tracks.SetRows(std::move(tracks), 0);
+  // Selecting by the program is no event, so the time must be set by hand.
   ShowSelectedTime();
   Show();
 }
@@ -36,6 +37,7 @@ void HighScores::DeleteRecord(int index) {
   }
   std::vector<std::string> remaining = records_;
   remaining.erase(remaining.begin() + index);
+  // The file first: if it cannot be written, the window still shows what stands in it.
   RecordFile::Write(remaining);
   records_ = std::move(remaining);
   Tracks.Remove(index);
@@ -79,6 +81,7 @@ void HighScores::ShowSelectedTime() {
 }
 
 void ShowRecordViewer() {
+  // Read before the window is shown, so that a failure is told over the window in use.
   std::vector<std::string> records = RecordFile::Read();
   if (records.empty()) {
     Messages::Show(RecordTexts.NoRecordsText, RecordTexts.NoRecordsTitle,

@@ -1,8 +1,8 @@
 #include "records/RecordChecker.h"
 
-#include <algorithm>
 #include <exception>
 
+#include "base/KeyValue.h"
 #include "base/RuntimeError.h"
 #include "platform/FileLines.h"
 #include "platform/Files.h"
@@ -15,9 +15,10 @@ namespace {
 
 // What is wrong with a line; null if nothing is.
 const LangText* FaultOf(std::string_view line) {
-  if (std::count(line.begin(), line.end(), '=') != 1) return &RecordTexts.CSFInvalidFormat;
-  if (!Platform::ParseNumber(line.substr(line.find('=') + 1))) return &RecordTexts.CSFInvalidValue;
-  return nullptr;
+  const auto record = KeyValue::Split(line);
+  // A second "=" would be a part of the time, which is then no number; it is told as what it is.
+  if (!record || KeyValue::Split(record->value)) return &RecordTexts.CSFInvalidFormat;
+  return Platform::ParseNumber(record->value) ? nullptr : &RecordTexts.CSFInvalidValue;
 }
 
 // CheckRecordFile, for a file that is there and can be read.
@@ -37,6 +38,7 @@ int64_t CheckLines(const std::string& path, std::string& message) {
 }  // namespace
 
 int64_t CheckRecordFile(const std::string& path, std::string& message) {
+  // Asked beforehand, as a folder that is missing is a missing file too and not a failure.
   if (!Platform::FileExists(path)) {
     message = GetLangString(RecordTexts.CSFNonexistentRecordsFile);
     return MissingRecordFile;

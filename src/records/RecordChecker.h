@@ -12,6 +12,6 @@ inline constexpr int64_t UnreadableRecordFile = -2;
 // behind it. A blank line is a fault, although the viewer drops it: the game does not write any.
 //   message   is set to the words for what was found, in the user's language.
 // Returns the number of the first faulty line, counted from 1; 0 if there is none;
-// MissingRecordFile; UnreadableRecordFile if the file is there but cannot be read, or has a line
-// longer than LineReader::LongestLine. Never fails. Takes a file of any size in bounded memory.
+// MissingRecordFile; UnreadableRecordFile if the file is there but cannot be read. Never fails.
+// Takes a file of any size in bounded memory.
 int64_t CheckRecordFile(const std::string& path, std::string& message);

@@ -1,5 +1,6 @@
 #include "records/RecordFile.h"
 
+#include "base/KeyValue.h"
 #include "base/LineReader.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
@@ -17,6 +18,7 @@ std::string Path() {
 std::vector<std::string> Read() {
   std::vector<std::string> records;
   for (const std::string& line : LinesOf(Platform::ReadWholeFile(Path()).value_or(""))) {
+    // Trimmed for good: what is written back after a deletion has no blanks at the ends of lines.
     const std::string_view record = Text::Trim(line);
     if (!record.empty()) records.emplace_back(record);
   }
@@ -30,17 +32,18 @@ void Write(const std::vector<std::string>& records) {
 }
 
 std::optional<std::string> TrackOf(const std::string& record) {
-  const size_t equals = record.find('=');
-  if (equals == std::string::npos) return std::nullopt;
-  return record.substr(0, equals);
+  const auto pair = KeyValue::Split(record);
+  if (!pair) return std::nullopt;
+  return std::string(pair->key);
 }
 
 std::string TimeTextOf(const std::string& record) {
-  const size_t equals = record.find('=');
-  if (equals == std::string::npos) return "";
+  const auto pair = KeyValue::Split(record);
+  if (!pair) return "";
   int32_t milliseconds = 0;
+  // One record with a nonsense time must not keep the others from being shown.
   try {
-    milliseconds = Platform::ParseInt32(std::string_view(record).substr(equals + 1));
+    milliseconds = Platform::ParseInt32(pair->value);
   } catch (const RuntimeError&) {
     return "";
   }

@@ -8,9 +8,7 @@
 #include "records/RecordChecker.h"
 #include "records/RecordFile.h"
 #include "records/RecordTexts.h"
-#include "text/StringTable.h"
 #include "ui/Messages.h"
-#include "ui/MsgBox.h"
 
 namespace RecordManager {
 
@@ -22,7 +20,7 @@ void CheckRecordsMenu() {
     Messages::Show(RecordTexts.RecordFileNonexistentText, RecordTexts.RecordFileNonexistentTitle,
                    Icon::Critical);
   } else if (line == UnreadableRecordFile) {
-    Platform::MsgBox(message, GetLangString(RuntimeErrorTexts.Title), Icon::Critical);
+    Messages::Show(message, RuntimeErrorTexts.Title, Icon::Critical);
   } else if (line != 0) {
     CheckReport::ShowFault(line, message, SharedTexts.SyntaxError);
   } else {

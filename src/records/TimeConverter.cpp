@@ -14,6 +14,8 @@ constexpr int32_t Second = 1000;
 std::string SecondsText(int32_t milliseconds) {
   std::string text = milliseconds < 0 ? "-" : "";
   text += std::to_string(std::abs(milliseconds) / Second);
+  // In whole numbers: a double would show 12.344999999999999 for some times. A thousand is added so
+  // that the zeros before the fraction's own digits are there.
   if (const int32_t fraction = std::abs(milliseconds) % Second; fraction != 0) {
     text += "." + std::to_string(Second + fraction).substr(1);
     text.erase(text.find_last_not_of('0') + 1);
@@ -25,6 +27,7 @@ std::string Quantity(const std::string& number, bool isOne, LangText one, LangTe
   return number + " " + GetLangString(isOne ? one : several);
 }
 
+// The comma and the blank stay where nothing follows them: "2 hours, " has always been shown so.
 std::string InWords(const TimeParts& parts) {
   std::string text;
   if (parts.hours >= 1) {

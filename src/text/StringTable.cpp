@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/KeyValue.h"
 #include "base/PerRun.h"
 #include "base/Text.h"
 #include "platform/Executable.h"
@@ -41,6 +42,7 @@ std::string_view WithoutComment(std::string_view line) {
   return Text::Trim(line.substr(0, comment));
 }
 
+// One spelling after the other, over the whole text. Any further ones stay as they are.
 std::string WithSemicolons(std::string text) {
   for (const char* escape : {"{sc}", "{Sc}", "{sC}", "{SC}"}) {
     text = Text::Replace(text, escape, ";");
@@ -78,16 +80,17 @@ bool LanguageFile::Refresh() {
 }
 
 std::optional<std::string> LanguageFile::Find(const std::string& key, int flag) const {
-  const std::string start = key + "=";
   std::optional<std::string> found;
   for (const std::string& whole : lines_) {
     const std::string_view line = flag == WithComments ? WithoutComment(whole) : whole;
-    if (line.starts_with(start)) found = line.substr(line.find('=') + 1);
+    // No end at the first one that is found: translators add lines at the end, and the last counts.
+    if (KeyValue::HasKey(line, key)) found = KeyValue::Split(line)->value;
   }
   return found;
 }
 
 void LanguageFile::Append(const std::string& entry) {
+  // A translator's last line may lack its end: the entry must not become a part of that text.
   Platform::AppendToFile(path_, (endsInOpenLine_ ? "\r\n" : "") + entry + "\r\n");
   isKnown_ = false;
 }
@@ -101,7 +104,7 @@ std::string GetLangString(const std::string& key, const std::string& english, in
     // appending the default would replace the translation, since the last line of a key counts.
     if (!file.Refresh()) return english;
     if (const auto text = file.Find(key, flag)) return WithSemicolons(*text);
-    file.Append(key + "=" + english);
+    file.Append(KeyValue::Line(key, english));
   } catch (const std::exception&) {
     // A file that cannot be read or written, or too little memory for it, is no reason to stop.
   }

@@ -38,6 +38,7 @@ std::string WithNamePrefix(const std::string& path, const std::string& prefix) {
 
 // The number of parts, or nothing if the user gives none and has been told.
 std::optional<int32_t> AskForPartCount() {
+  // Asked again until it is a number or is left: a typing error must not cost the chosen file.
   for (;;) {
     const std::string answer =
         Platform::InputBox(GetLangString(TrackTexts.TrackPartsQuestionText),
@@ -47,6 +48,7 @@ std::optional<int32_t> AskForPartCount() {
                      Platform::Icon::Information);
       return std::nullopt;
     }
+    // A number beyond 32 bits is one all the same: converting it fails, and ends the action.
     if (Platform::ParseNumber(answer)) return Platform::ParseInt32(answer);
     Messages::Show(TrackTexts.RTMNotNumber, SharedTexts.Error, Platform::Icon::Critical);
   }
@@ -58,6 +60,8 @@ void RandomTrack() {
   const std::string chosen = TrackQuestions::ChooseTrackFile(
       SharedDialogs().SaveTrack, TrackTexts.RTMAbortedNoFileText, TrackTexts.RTMAbortedNoFileTitle);
   if (chosen.empty()) return;
+  // The whole path is turned to small letters, its folders too, as the tool always has; the disk
+  // makes no difference between them.
   std::string path = TrackQuestions::WithTrackExtension(Platform::LowerCase(chosen));
   // Such tracks are known to the game by their name.
   if (AskForAdventure()) path = WithNamePrefix(path, "adv");
@@ -65,6 +69,8 @@ void RandomTrack() {
   const std::optional<int32_t> count = AskForPartCount();
   if (!count) return;
 
+  // The weather is asked for only when the parts are made. Whatever fails until Finish, an older
+  // track of this name is still there.
   Platform::FileWriter file(path);
   WriteRandomParts(*count, file);
   std::string end;

@@ -75,6 +75,7 @@ void Checker::Check(const std::string& path) {
     TakeLine(line);
     if (code_ != 0) return;
   }
+  // Lines behind the weather mean nothing; the message only tells how many lines the file has.
   while (lines.Skip()) ++lines_;
   if (position_ < End) {
     return Fail(TrackFault::NoEnd,
@@ -88,6 +89,8 @@ void Checker::Check(const std::string& path) {
 void Checker::TakeLine(std::string_view line) {
   const auto value = Platform::ParseWhole(line);
   if (!value) return FailNotNumeric();
+  // Any number but -1 behind a complete part begins the next part, one that is no curve included:
+  // the fault is then told as that part's.
   if (position_ == End && *value != EndMarker) {
     ++part_;
     position_ = Curve;
@@ -150,6 +153,7 @@ int32_t CheckTrackFile(const std::string& path, int32_t& code, std::string& mess
   try {
     Checker checker;
     checker.Check(path);
+    // Before anything is handed out: a count beyond 32 bits fails, and the verdict is another.
     const int32_t lines = checker.lines();
     code = checker.code();
     message = checker.message();

@@ -14,8 +14,8 @@ inline constexpr int32_t CurveOutOfRange = -1;
 inline constexpr int32_t SurfaceOutOfRange = -2;
 inline constexpr int32_t LengthTooLow = -3;
 inline constexpr int32_t WeatherOutOfRange = -4;
-// The file, a number that does not fit 32 bits, a text where a later part or the weather may begin,
-// or a line before it that is longer than LineReader::LongestLine.
+// The file, a number that does not fit 32 bits, or a text where a later part or the weather may
+// begin.
 inline constexpr int32_t Unreadable = -5;
 }  // namespace TrackFault
 

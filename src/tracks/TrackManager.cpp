@@ -50,9 +50,11 @@ bool SaveTrack() {
   TrackInWork& track = TheTrack();
   const std::string path = track.TrackPath.empty() ? ChooseFileOfNewTrack() : track.TrackPath;
   if (path.empty()) return false;
+  // A copy, since the end belongs to the file and not to the track in work.
   std::string text = track.TrackText;
   AppendTrackEnd(TrackQuestions::AskForSun(), text);
   WriteTextFile(path, text);
+  // Only now that the file is safe: a save that fails leaves the track to be saved again.
   track = {};
   Messages::Show(TrackTexts.TrackCompiledText, TrackTexts.TrackCompiledTitle,
                  Platform::Icon::Information);

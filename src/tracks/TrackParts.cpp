@@ -6,7 +6,7 @@
 #include "tracks/TrackFormat.h"
 #include "tracks/TrackInWork.h"
 #include "tracks/TrackManager.h"
-#include "ui/MsgBox.h"
+#include "ui/Messages.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ void Fill(Platform::ListBox& list, const Names& names) {
 }
 
 void Refuse(const std::string& text) {
-  Platform::MsgBox(text, GetLangString(SharedTexts.Error), Platform::Icon::Critical);
+  Messages::Show(text, SharedTexts.Error, Platform::Icon::Critical);
 }
 
 }  // namespace
@@ -30,6 +30,7 @@ TrackParts::TrackParts() : Form(TrackTexts.NewPartTitle) {
 }
 
 void TrackParts::Form_Load() {
+  // The rows are looked up anew each time, and the place of a row is its code in the file.
   PartLength.SetText("");
   Fill(TrackSurface, TrackFormat::Surfaces);
   Fill(TrackCurve, TrackFormat::Curves);
@@ -47,10 +48,12 @@ void TrackParts::Submit_Click() {
                            TrackSurface.row(surface) + " " + GetLangString(TrackTexts.For) + " " +
                            std::to_string(*length) + " " + GetLangString(TrackTexts.Units) + ".";
   TrackManager::AppendTrackPart(curve, surface, *length, TheTrack().TrackText);
+  // The window is kept for the next part, which is to begin at its first field with nothing left.
   TrackCurve.Focus();
   TrackCurve.Select(0);
   TrackSurface.Select(0);
   PartLength.SetText("");
+  // The editor's window is shown first: what a hidden list selects, a screen reader does not tell.
   GoBack();
   if (OnAdded) OnAdded(line);
 }

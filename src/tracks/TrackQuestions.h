@@ -11,16 +11,13 @@ namespace TrackQuestions {
 // Lets the user choose a track file, starting in the game's folder of tracks. Returns its full
 // path as it was chosen. If none is chosen, tells the user with the given text and title, and
 // returns an empty text. Fails as Application::GameFolder and the dialog do.
-std::string ChooseTrackFile(Platform::FileDialog& dialog, const LangText& noFileText,
+std::string ChooseTrackFile(const Platform::FileDialog& dialog, const LangText& noFileText,
                             const LangText& noFileTitle);
 
 // A path with ".trk" appended, unless it ends so in any letter case.
 std::string WithTrackExtension(const std::string& path);
 
-// Whether a file to write may stand at the path. The dialog has asked about a file under the name
-// that was chosen; where the program has made another name of it and there is a file of that name,
-// the user is asked whether it shall be replaced. Fails with PathFileAccess, cause NameNotUsable,
-// if that other name has become too long.
+// Whether a track may be written to the path: MayBeWritten of game/FileChoice.h, about tracks.
 bool MayBeWritten(const std::string& path, const std::string& chosen);
 
 // Asks whether the sun shall shine on the track; otherwise it rains.

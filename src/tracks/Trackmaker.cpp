@@ -34,12 +34,14 @@ void Trackmaker::Form_KeyDown(Platform::KeyEvent& key) {
   if (key.code == 'C' && key.shift == Alt) action = &Trackmaker::Compile_Click;
   if (!action) return;
   key.isHandled = true;
+  // Where the focus is when the window comes back, whichever key led away from it.
   Track.Focus();
   (this->*action)();
 }
 
 void Trackmaker::NewPart_Click() {
   auto& parts = PerRun<TrackParts>();
+  // Set at each opening: the dialog does not know its opener.
   parts.OnAdded = [this](const std::string& line) { AddLine(line); };
   parts.Show();
 }
@@ -49,6 +51,7 @@ void Trackmaker::Compile_Click() {
 }
 
 void Trackmaker::Track_Click() {
+  // The dialog comes over the main window; without a choice the user is there, as after Exit.
   GoBack();
   NewTrack();
 }
@@ -61,6 +64,7 @@ void Trackmaker::Ccl_Click() {
 void NewTrack() {
   const std::string path = TrackManager::ChooseFileOfNewTrack();
   if (path.empty()) return;
+  // The path is set when the window is there: if it cannot be shown, the track in work is as before.
   PerRun<Trackmaker>().Show();
   TheTrack().TrackPath = path;
 }

@@ -32,7 +32,8 @@ std::string WithoutControls(std::string_view text) {
     const size_t length = LengthAt(text, i);
     // Half a character would take the next one with it.
     const bool isBroken = length == 1 && IsLeadByte(text[i]);
-    const bool isHidden = IsControl(text[i]) && text[i] != '\t' && !IsLineEndAt(text, i);
+    const bool isShown = text[i] == '\t' || text[i] == '\n' || IsLineEndAt(text, i);
+    const bool isHidden = IsControl(text[i]) && !isShown;
     visible.append(isBroken || isHidden ? "?" : text.substr(i, length));
     i += length;
   }

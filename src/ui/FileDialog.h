@@ -5,7 +5,7 @@
 
 namespace Platform {
 
-// One dialog that several tools share. What a tool sets stays for the next.
+// What one use of a dialog needs. Showing it leaves nothing behind for the next use.
 class FileDialog {
  public:
   enum class Kind { Open, Save };
@@ -19,6 +19,8 @@ class FileDialog {
   std::string pattern;
   // Added to a name that is typed without an extension, without its dot; empty for none.
   std::string defaultExtension;
+  // Where the dialog opens, whatever folder the user was in last. Where there is no such folder, or
+  // none is named, the system chooses.
   std::string initialFolder;
 
   // Shows the dialog over the window in use. Returns the full path that was chosen; empty if it was
@@ -28,7 +30,7 @@ class FileDialog {
   // Fails with RuntimeError DeviceError if the system cannot show it; with PathFileAccess, cause
   // NameNotUsable, at the choice of a path that the program cannot use: too long, or with a
   // character that the code page cannot hold.
-  std::string Show();
+  std::string Show() const;
 
   Kind kind() const { return kind_; }
 

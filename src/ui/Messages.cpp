@@ -5,13 +5,19 @@
 namespace Messages {
 
 void Show(const LangText& text, const LangText& title, Platform::Icon icon) {
-  const std::string shown = GetLangString(text);
-  Platform::MsgBox(shown, GetLangString(title), icon);
+  Show(GetLangString(text), title, icon);
+}
+
+void Show(const std::string& text, const LangText& title, Platform::Icon icon) {
+  Platform::MsgBox(text, GetLangString(title), icon);
 }
 
 bool Ask(const LangText& question, const LangText& title, Platform::Buttons buttons) {
-  const std::string shown = GetLangString(question);
-  return Platform::MsgBox(shown, GetLangString(title), Platform::Icon::Question, buttons) ==
+  return Ask(GetLangString(question), title, buttons);
+}
+
+bool Ask(const std::string& question, const LangText& title, Platform::Buttons buttons) {
+  return Platform::MsgBox(question, GetLangString(title), Platform::Icon::Question, buttons) ==
          Platform::Answer::Yes;
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "base/KeyValue.h"
 #include "base/Maths.h"
 #include "base/SharedTexts.h"
 #include "platform/FileLines.h"
@@ -38,6 +39,7 @@ class Checker {
   size_t expected_ = 0;  // the index of the variable behind the last one
 };
 
+// The game has more internal sounds than these, but car5 and car6 have always been taken for files.
 bool IsInternalSound(VehicleVariable variable, std::string_view value) {
   if (value == "car1" || value == "car2") return true;
   if (variable == VehicleVariable::ThrottleSound) return false;
@@ -63,13 +65,13 @@ std::optional<Fault> FaultOfNumber(VehicleVariable variable, std::string_view va
 }
 
 std::optional<Fault> Checker::FaultOf(std::string_view line) {
-  const size_t equals = line.find('=');
-  if (equals == std::string_view::npos) {
+  const auto pair = KeyValue::Split(line);
+  if (!pair) {
     return Fault{VehicleFault::InvalidSyntax, GetLangString(VehicleTexts.CVFInvalidSyntax)};
   }
-  const std::string_view name = line.substr(0, equals);
-  std::string_view value = line.substr(equals + 1);
-  value = value.substr(0, value.find('='));
+  const std::string_view name = pair->key;
+  // What follows a second "=" is no fault: it has never been looked at.
+  const std::string_view value = pair->value.substr(0, pair->value.find('='));
   const auto variable = FindVariable(name);
   if (!variable) {
     return Fault{VehicleFault::InvalidVariable,
@@ -93,6 +95,7 @@ std::optional<VehicleVariable> Checker::FindVariable(std::string_view name) {
 
 std::optional<Fault> Checker::FaultOfSound(VehicleVariable variable, std::string_view value) const {
   if (IsInternalSound(variable, value)) return std::nullopt;
+  // An empty name stands for the folder itself. That exists, so it is no fault.
   const std::string path = folder_ + "\\" + std::string(value);
   Platform::AnswerMessages();  // on a slow drive each name takes its time
   if (Platform::FileExists(path)) return std::nullopt;
@@ -112,6 +115,7 @@ int32_t CheckVehicleFile(const std::string& path, int32_t& code, std::string& me
     while (lines.Next(line)) {
       ++count;
       if (auto fault = checker.FaultOf(line)) {
+        // Before anything is handed out: a count beyond 32 bits fails, and the verdict is another.
         const int32_t result = Maths::ToInt32(static_cast<double>(count));
         code = fault->code;
         message = std::move(fault->message);

@@ -12,7 +12,7 @@ inline constexpr int32_t InvalidSyntax = 3;  // no "=", an empty line too
 inline constexpr int32_t NonexistentSound = 4;
 inline constexpr int32_t SteeringFactorOutOfRange = -1;
 inline constexpr int32_t HasWipersOutOfRange = -2;
-// The file, a number that does not fit 32 bits, or a line longer than LineReader::LongestLine.
+// The file, or a number that does not fit 32 bits.
 inline constexpr int32_t Unreadable = -3;
 }  // namespace VehicleFault
 
@@ -25,5 +25,6 @@ inline constexpr int32_t Unreadable = -3;
 //
 // Variables that are missing, occur twice or stand in another order are no fault. What follows a
 // second "=" in a line is ignored. An empty sound name stands for the folder itself, which exists.
-// The internal sounds car5 and car6 are taken for file names here.
+// The internal sounds car5 and car6 are taken for file names here. Of a line that is longer than any
+// of a vehicle, a message quotes as much as ShortLine keeps.
 int32_t CheckVehicleFile(const std::string& path, int32_t& code, std::string& message);

@@ -24,6 +24,12 @@ struct VehicleTextTable {
   LangText VehicleNoFileErrorText{"VehicleNoFileErrorText", "No filename specified."};
   LangText VehicleNoFileErrorTitle{"VehicleNoFileErrorTitle", "Save error"};
 
+  // The titles of the dialog in which a sound is chosen. They are the same in every language.
+  LangText OpenEngineSound = FixedText("Open Engine Sound");
+  LangText OpenThrottleSound = FixedText("Open Throttle Sound");
+  LangText OpenIgnitionSound = FixedText("Open Ignition Sound");
+  LangText OpenHornSound = FixedText("Open Horn Sound");
+
   // Setting a value.
   LangText InternalSoundQuestionText{"InternalSoundQuestionText",
                                      "Would you like to use an internal game sound?"};
@@ -125,6 +131,23 @@ struct VehicleTextTable {
   LangText WipersQuestionTitle{"WipersQuestionTitle", "Wipers"};
   LangText VehicleFileSavedText{"VehicleFileSavedText", "Vehicle file saved!"};
   LangText VehicleFileSavedTitle{"VehicleFileSavedTitle", "Congratulations!"};
+
+  // What stands before the value in the editor's rows, in the order of the variables. They are the
+  // same in every language.
+  LangText EngineSoundRow = FixedText("Engine Sound: ");
+  LangText ThrottleSoundRow = FixedText("Throttle Sound: ");
+  LangText IgnitionSoundRow = FixedText("Ignition Sound: ");
+  LangText HornSoundRow = FixedText("Horn Sound: ");
+  LangText AccelerationRow = FixedText("Acceleration: ");
+  LangText DecelerationRow = FixedText("Deceleration: ");
+  LangText TopSpeedRow = FixedText("Top Speed: ");
+  LangText IdleFrequencyRow = FixedText("Engine Idle Frequency: ");
+  LangText TopFrequencyRow = FixedText("Engine Top Speed Frequency: ");
+  LangText ShiftFrequencyRow = FixedText("Engine Gear Shift Frequency: ");
+  LangText NumberOfGearsRow = FixedText("Number of Gears: ");
+  LangText SteeringRow = FixedText("Steering: ");
+  LangText SteeringFactorRow = FixedText("Steering Factor: ");
+  LangText WipersRow = FixedText("Wipers: ");
 
   // The editor and the sound test.
   LangText NewCarTitle{"NewCarTitle", "Create Vehicle"};

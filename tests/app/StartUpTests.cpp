@@ -167,7 +167,7 @@ std::vector<std::string> ThingsDone(const Simulated::Machine& machine) {
 std::string TranslatedTexts() {
   std::string file;
   for (const LangText& text : AllTexts()) {
-    file += std::string(text.key) + "=" + text.english + " [X]\r\n";
+    if (text.key) file += std::string(text.key) + "=" + text.english + " [X]\r\n";
   }
   return file;
 }

@@ -14,6 +14,19 @@ TEST(LangText, ATableListsItsTextsInOrder) {
   EXPECT_STREQ(texts.back().key, SharedTexts.Or.key);
 }
 
+TEST(LangText, ATableMayHoldFixedTexts) {
+  struct Table {
+    LangText One{"One", "1"};
+    LangText Two = FixedText("2");
+    LangText Three{"Three", "3"};
+  };
+  const auto texts = TextsOf(Table{});
+  ASSERT_EQ(texts.size(), 3U);
+  EXPECT_EQ(texts[1].key, nullptr);
+  EXPECT_STREQ(texts[1].english, "2");
+  EXPECT_STREQ(texts[2].key, "Three");
+}
+
 TEST(LangText, AFixedTextHasNoKey) {
   constexpr LangText Name = FixedText("Gloamworks");
   EXPECT_EQ(Name.key, nullptr);

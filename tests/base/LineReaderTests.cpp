@@ -109,27 +109,82 @@ TEST(LineReader, SkippedLinesAreCountedAsReadOnesAre) {
   }
 }
 
-TEST(LineReader, TheLongestLineIsReadAndALongerOneIsRefused) {
-  const std::string longest(LineReader::LongestLine, 'x');
-  for (const char* end : {"", "\r", "\r\n", "\r\nnext\r\n"}) {
-    EXPECT_EQ(Read(longest + end).front(), longest);
-    try {
-      Read("first\r\n" + longest + "x" + end);
-      FAIL() << "a line of more than the longest length was read";
-    } catch (const RuntimeError& error) {
-      EXPECT_EQ(error.number(), RuntimeError::OutOfMemory);
+// The pieces of all lines, with "|" between those of a line.
+std::vector<std::string> ReadPieces(const std::string& text, size_t blockSize = SIZE_MAX) {
+  Blocks blocks(text, blockSize);
+  LineReader reader(blocks.Source());
+  std::vector<std::string> lines;
+  for (std::string_view piece; reader.Next(piece);) {
+    lines.emplace_back(piece);
+    EXPECT_LE(piece.size(), LineReader::LongestPiece);
+    while (reader.NextPiece(piece)) {
+      EXPECT_LE(piece.size(), LineReader::LongestPiece);
+      lines.back().append("|").append(piece);
     }
+  }
+  EXPECT_LE(blocks.largestBuffer, LineReader::LongestPiece);
+  return lines;
+}
+
+TEST(LineReader, ALongLineComesInPieces) {
+  const std::string longest(LineReader::LongestPiece, 'x');
+  for (const size_t blockSize : {size_t{1000}, LineReader::LongestPiece, SIZE_MAX}) {
+    for (const char* end : {"", "\r", "\r\n"}) {
+      EXPECT_THAT(ReadPieces(longest + end, blockSize), ElementsAre(longest));
+      EXPECT_THAT(ReadPieces(longest + "y" + end, blockSize), ElementsAre(longest + "|y"));
+      EXPECT_THAT(ReadPieces("a\r\n" + longest + longest + "y" + end, blockSize),
+                  ElementsAre("a", longest + "|" + longest + "|y"));
+    }
+    EXPECT_THAT(ReadPieces(longest + "\r\n\r\nb", blockSize), ElementsAre(longest, "", "b"));
+    EXPECT_THAT(ReadPieces(longest + "\r\r\nb", blockSize), ElementsAre(longest, "", "b"));
+    EXPECT_THAT(ReadPieces(longest + "yy\r\nb\r\n", blockSize), ElementsAre(longest + "|yy", "b"));
   }
 }
 
+TEST(LineReader, AShortLineHasNoFurtherPiece) {
+  Blocks blocks("a\r\nb");
+  LineReader reader(blocks.Source());
+  std::string_view line;
+  EXPECT_FALSE(reader.NextPiece(line)) << "no line has been begun";
+  EXPECT_TRUE(reader.Next(line));
+  EXPECT_FALSE(reader.NextPiece(line));
+  EXPECT_TRUE(reader.Next(line));
+  EXPECT_EQ(line, "b");
+}
+
+TEST(LineReader, WhatIsLeftOfALongLineIsPassedOver) {
+  const std::string longest(LineReader::LongestPiece, 'x');
+  for (const char* rest : {"", "yy", "\n"}) {
+    for (const size_t pieces : {0, 1, 2}) {
+      Blocks blocks(longest + longest + rest + "\r\nnext\r\nlast", 5000);
+      LineReader reader(blocks.Source());
+      std::string_view line;
+      EXPECT_TRUE(reader.Next(line));
+      EXPECT_EQ(line, longest);
+      for (size_t i = 0; i < pieces; ++i) reader.NextPiece(line);
+      EXPECT_TRUE(reader.Next(line));
+      EXPECT_EQ(line, "next") << rest;
+      EXPECT_TRUE(reader.Skip());
+      EXPECT_FALSE(reader.Next(line));
+    }
+  }
+  Blocks blocks(longest + "yy\r\nnext\r\nlast");
+  LineReader reader(blocks.Source());
+  std::string_view line;
+  EXPECT_TRUE(reader.Next(line));
+  EXPECT_TRUE(reader.Skip()) << "the line behind it";
+  EXPECT_TRUE(reader.Next(line));
+  EXPECT_EQ(line, "last");
+}
+
 TEST(LineReader, ALineOfAnyLengthIsSkipped) {
-  Blocks blocks(std::string(5 * LineReader::LongestLine, 'x') + "\r\nnext");
+  Blocks blocks(std::string(5 << 20, 'x') + "\r\nnext");
   LineReader reader(blocks.Source());
   EXPECT_TRUE(reader.Skip());
   std::string_view line;
   EXPECT_TRUE(reader.Next(line));
   EXPECT_EQ(line, "next");
-  EXPECT_LE(blocks.largestBuffer, 1U << 16);
+  EXPECT_LE(blocks.largestBuffer, LineReader::LongestPiece);
 }
 
 TEST(LineReader, TheBufferStaysSmallHoweverLongTheText) {
@@ -139,7 +194,7 @@ TEST(LineReader, TheBufferStaysSmallHoweverLongTheText) {
   LineReader reader(blocks.Source());
   for (std::string_view line; reader.Next(line);) {
   }
-  EXPECT_LE(blocks.largestBuffer, 1U << 16);
+  EXPECT_LE(blocks.largestBuffer, LineReader::LongestPiece);
 }
 
 TEST(LineReader, AFailureOfTheSourceIsPassedOn) {

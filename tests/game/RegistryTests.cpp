@@ -103,6 +103,23 @@ TEST_F(RegistryStory, The32BitViewIsTriedFirstAndThe64BitViewAfterIt) {
   EXPECT_EQ(Read(), "of 32 bits");
 }
 
+TEST_F(RegistryStory, ValuesOfTwoInstallationsAreNotMixed) {
+  PutLocation("C:\\Old\\", RegistryView::Of32Bit);
+  machine.registry.PutString(RegistryRoot::LocalMachine, RegistryView::Of64Bit, Uninstall,
+                             "DisplayVersion", "2.0");
+  EXPECT_EQ(Application::GameFolder(), "C:\\Old");
+  EXPECT_EQ(Application::GameVersion(), "") << "that of another installation";
+  machine.registry.Delete(RegistryRoot::LocalMachine, RegistryView::Of32Bit, Uninstall,
+                          "InstallLocation");
+  EXPECT_EQ(Application::GameVersion(), "2.0");
+}
+
+TEST_F(RegistryStory, AValueOfTheChosenViewThatCannotBeReadIsEmpty) {
+  Put(std::string(1025, 'x'));
+  Put("of 64 bits", RegistryView::Of64Bit);
+  EXPECT_EQ(Read(), "");
+}
+
 TEST_F(RegistryStory, TheGameFolderIsTheLocationWithoutItsBackslash) {
   PutLocation("C:\\Games\\Skidrun2\\");
   EXPECT_EQ(Application::GameFolder(), "C:\\Games\\Skidrun2");

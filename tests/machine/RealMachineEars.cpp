@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "tests/machine/RealMachine.h"
+#include "tests/machine/RealMachineNames.h"
 #include "tests/machine/TestMachine.h"
 #include "ui/Controls.h"
 
@@ -18,9 +19,7 @@ std::string ClassOf(HWND window) {
   return lower;
 }
 
-bool HasStyle(HWND window, LONG_PTR style) {
-  return (GetWindowLongPtrA(window, GWL_STYLE) & style) != 0;
-}
+using NativeNames::HasStyle;
 
 std::string TextOf(HWND window) {
   const auto length = static_cast<size_t>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0));
@@ -41,11 +40,10 @@ std::string RowOf(HWND list, LRESULT row) {
 
 // The text by which a reader knows a control, as a caption.
 std::string CaptionOf(HWND control) {
-  if (ClassOf(control) == "button") return TextOf(control);
-  const HWND before = GetWindow(control, GW_HWNDPREV);
-  if (!before || ClassOf(before) != "static" || !HasStyle(before, WS_VISIBLE)) return {};
-  const std::string text = TextOf(before);
-  return HasStyle(before, SS_NOPREFIX) ? Platform::AsCaption(text) : text;
+  const HWND giver = NativeNames::GiverOf(control);
+  if (!giver) return {};
+  const std::string text = TextOf(giver);
+  return NativeNames::MarksAccessKey(giver) ? text : Platform::AsCaption(text);
 }
 
 std::string RoleAndState(HWND control) {

@@ -119,6 +119,37 @@ TEST_F(RealFiles, ANameThatTheCodePageCannotHoldIsNeverThatOfAnotherFile) {
   EXPECT_EQ(Platform::Narrow(L"\uFF21\u2212\u5C71"), "???");
 }
 
+// The folder is passed with the pattern behind it: the box must show nothing odd for that, and
+// typing must replace it.
+TEST_F(RealFiles, ADialogBeginsWithThePatternSelected) {
+  Platform::Form main(FixedText("Main"));
+  Platform::StartProgram(main);
+  for (const auto kind : {Platform::FileDialog::Kind::Open, Platform::FileDialog::Kind::Save}) {
+    Platform::FileDialog dialog(kind);
+    dialog.title = "Track file";
+    dialog.fileType = "SK2 Track files (*.trk)";
+    dialog.pattern = "*.trk";
+    dialog.initialFolder = folder;
+    TestMachine::WhenModalWindowOpens([] {
+      char text[300] = "";
+      GetWindowTextA(GetFocus(), text, sizeof text);
+      EXPECT_STREQ(text, "*.trk");
+      TestMachine::Press("Enter");  // lists the files of that pattern, and chooses none
+      EXPECT_EQ(TestMachine::ActiveWindow(), "Track file");
+      TestMachine::Press("Ctrl+A");
+      TestMachine::Type("lake.trk");
+      TestMachine::Press("Enter");
+    });
+    EXPECT_EQ(dialog.Show(), In("lake.trk"));
+    TestMachine::WhenModalWindowOpens([] {
+      EXPECT_EQ(TestMachine::SelectedText(), "*.trk");
+      TestMachine::Type("hill.trk");
+      TestMachine::Press("Enter");
+    });
+    EXPECT_EQ(dialog.Show(), In("hill.trk"));
+  }
+}
+
 TEST_F(RealFiles, ADialogLeavesTheCurrentFolderAndTheChosenNameAsTheyAre) {
   const auto currentFolder = [] {
     char path[MAX_PATH + 1] = "";

@@ -9,6 +9,7 @@
 #include "machine/win32/FormWindow.h"
 #include "machine/win32/MessageLoop.h"
 #include "tests/machine/RealMachine.h"
+#include "tests/machine/RealMachineKeys.h"
 #include "tests/machine/TestMachine.h"
 #include "ui/Controls.h"
 #include "ui/Keys.h"
@@ -17,41 +18,12 @@ namespace TestMachine {
 
 namespace {
 
-struct Stroke {
-  BYTE key = 0;
-  bool isCtrl = false;
-  bool isShift = false;
-  bool isAlt = false;
-};
+using KeyNames::Stroke;
 
-BYTE KeyNamed(const std::string& name) {
-  static const std::pair<const char*, BYTE> keys[] = {
-      {"Enter", VK_RETURN},  {"Tab", VK_TAB},       {"Escape", VK_ESCAPE},  {"Space", VK_SPACE},
-      {"Up", VK_UP},         {"Down", VK_DOWN},     {"Left", VK_LEFT},      {"Right", VK_RIGHT},
-      {"Home", VK_HOME},     {"End", VK_END},       {"PageUp", VK_PRIOR},   {"PageDown", VK_NEXT},
-      {"Delete", VK_DELETE}, {"Insert", VK_INSERT}, {"Backspace", VK_BACK}, {"F4", VK_F4}};
-  for (const auto& [known, key] : keys) {
-    if (name == known) return key;
-  }
-  return name.size() == 1 ? static_cast<BYTE>(name[0]) : BYTE{0};
-}
-
-Stroke StrokeOf(std::string name) {
-  Stroke stroke;
-  const auto take = [&](const std::string& prefix) {
-    if (!name.starts_with(prefix)) return false;
-    name.erase(0, prefix.size());
-    return true;
-  };
-  for (bool hasMore = true; hasMore;) {
-    hasMore = false;
-    if (take("Ctrl+")) stroke.isCtrl = hasMore = true;
-    if (take("Shift+")) stroke.isShift = hasMore = true;
-    if (take("Alt+")) stroke.isAlt = hasMore = true;
-  }
-  stroke.key = KeyNamed(name);
-  EXPECT_NE(stroke.key, 0) << "no such key: " << name;
-  return stroke;
+Stroke StrokeOf(const std::string& name) {
+  const auto stroke = KeyNames::StrokeNamed(name);
+  EXPECT_TRUE(stroke) << "no such key: " << name;
+  return stroke.value_or(Stroke{});
 }
 
 void SetKeys(const Stroke& stroke, bool areDown) {
@@ -73,7 +45,7 @@ HWND KeyboardWindow() {
   return GetFocus() ? GetFocus() : GetActiveWindow();
 }
 
-void PostKey(BYTE key, bool isDown, bool isAlt) {
+void PostKey(WORD key, bool isDown, bool isAlt) {
   LPARAM data = 1 | static_cast<LPARAM>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC)) << 16;
   if (isAlt) data |= 1 << 29;
   if (!isDown) data |= static_cast<LPARAM>(3) << 30;
@@ -97,7 +69,7 @@ void PressStroke(const Stroke& stroke) {
 }
 
 Stroke& StrokeHeldDown() {
-  static Stroke stroke;
+  static Stroke stroke{};
   return stroke;
 }
 
@@ -223,7 +195,7 @@ void HoldDown(const std::string& key) {
 }
 
 void LetGoOfKeys() {
-  const Stroke stroke = std::exchange(StrokeHeldDown(), {});
+  const Stroke stroke = std::exchange(StrokeHeldDown(), Stroke{});
   SetKeys(stroke, false);
   if (stroke.isAlt) PostKey(VK_MENU, false, true);
   PostKey(stroke.key, false, false);
@@ -233,7 +205,7 @@ void Type(const std::string& text) {
   for (const char c : text) {
     const SHORT key = VkKeyScanA(c);
     ASSERT_NE(key, -1) << c;
-    Stroke stroke;
+    Stroke stroke{};
     stroke.key = LOBYTE(key);
     stroke.isShift = HIBYTE(key) & 1;
     PressStroke(stroke);

@@ -90,6 +90,21 @@ TEST_F(RegistryContract, KeepsTheTwoViewsApart) {
   EXPECT_FALSE(Query(RegistryView::Of32Bit, "Only64"));
 }
 
+TEST_F(RegistryContract, TellsWhichKeysThereAreInEachView) {
+  const auto has = [this](RegistryView view, const std::string& key) {
+    return Platform::HasRegistryKey(RegistryRoot::LocalMachine, view, key);
+  };
+  EXPECT_FALSE(has(RegistryView::Of32Bit, subkey + "\\Deeper"));
+  TestMachine::PutRegistryValue(RegistryRoot::LocalMachine, RegistryView::Of32Bit,
+                                subkey + "\\Deeper", "Value", {RegistryType::Other, "x"});
+  EXPECT_TRUE(has(RegistryView::Of32Bit, subkey + "\\Deeper"));
+  EXPECT_TRUE(has(RegistryView::Of32Bit, subkey + "\\DEEPER"));
+  EXPECT_TRUE(has(RegistryView::Of32Bit, subkey)) << "the key above it";
+  EXPECT_FALSE(has(RegistryView::Of64Bit, subkey + "\\Deeper"));
+  EXPECT_FALSE(has(RegistryView::Of32Bit, subkey + "\\Deep"));
+  EXPECT_FALSE(has(RegistryView::Of32Bit, subkey + "\\Deeper\\Deeper"));
+}
+
 TEST_F(RegistryContract, ReadsTheUsersOwnPart) {
   TestMachine::PutRegistryValue(RegistryRoot::CurrentUser, RegistryView::Of64Bit, subkey, "Mine",
                                 {RegistryType::Other, "x"});

@@ -103,8 +103,16 @@ TEST_F(RecordCheckerStory, AFolderInThePlaceOfTheFileCannotBeRead) {
   EXPECT_EQ(CheckRecordFile(RecordPath, message), UnreadableRecordFile);
 }
 
-TEST_F(RecordCheckerStory, ALineThatIsLongerThanAnyRecordCannotBeRead) {
-  EXPECT_EQ(Check(std::string(LineReader::LongestLine + 1, 'x')), UnreadableRecordFile);
+TEST_F(RecordCheckerStory, ALineOfTenMegabytesIsJudgedByTheSameRules) {
+  const std::string stretch(10 << 20, 'x');
+  EXPECT_EQ(Check("a=1\r\n" + stretch), 2);
+  EXPECT_EQ(message, InvalidFormat);
+  EXPECT_EQ(Check("a=1\r\n" + stretch + "=" + stretch + "=1"), 2);
+  EXPECT_EQ(message, InvalidFormat);
+  EXPECT_EQ(Check("Lap=" + stretch), 1);
+  EXPECT_EQ(message, InvalidValue);
+  EXPECT_EQ(Check(stretch + "=72345\r\nLap=" + std::string(10 << 20, '9')), 0);
+  EXPECT_EQ(message, InOrder);
 }
 
 TEST_F(RecordCheckerStory, AFileOfAnySizeIsCheckedInBoundedMemory) {

@@ -196,6 +196,44 @@ TEST_F(StringTableStory, AFileThatIsTooLargeForALanguageFileIsNotReadAndNotAppen
   EXPECT_EQ(Look("XFile", "&File"), "Datei");
 }
 
+TEST_F(StringTableStory, TheLargestLanguageFileHasEightMebibytes) {
+  constexpr size_t Limit = 8 << 20;
+  const std::string entry = "\r\nXFile=Datei\r\n";
+  FileHolds(std::string(Limit - entry.size(), ';') + entry);
+  EXPECT_EQ(Look("XFile", "&File"), "Datei");
+  FileHolds(std::string(Limit - entry.size() + 1, ';') + entry);
+  EXPECT_EQ(Look("XFile", "&File"), "&File");
+}
+
+// An editor that puts a copy back gives it its old size and time.
+TEST_F(StringTableStory, AFileThatComesBackAsItWasIsReadAgain) {
+  const std::string bytes = "XFile=Datei\r\n";
+  FileHolds(bytes);
+  EXPECT_EQ(Look("XFile", "&File"), "Datei");
+  const uint64_t time = machine.files.Find(LanguageFile)->lastWrite;
+  const auto comesBack = [&] {
+    FileHolds(bytes);
+    machine.files.Find(LanguageFile)->lastWrite = time;
+    EXPECT_EQ(Look("XFile", "&File"), "Datei");
+    EXPECT_EQ(File(), bytes);
+  };
+
+  FileHolds(std::string((8 << 20) + 1, 'x'));
+  EXPECT_EQ(Look("XFile", "&File"), "&File") << "too large";
+  comesBack();
+
+  FileHolds("XFile=Daten\r\n");
+  machine.files.HoldAlone(LanguageFile);
+  EXPECT_EQ(Look("XFile", "&File"), "&File") << "unreadable";
+  machine.files.Release(LanguageFile);
+  comesBack();
+
+  machine.files.Delete(LanguageFile);
+  machine.files.FailWrites(Simulated::After{0}, RuntimeError::DiskFull);
+  EXPECT_EQ(Look("XFile", "&File"), "&File") << "gone";
+  comesBack();
+}
+
 TEST_F(StringTableStory, AFailureThatNoServiceNamesYieldsTheDefaultToo) {
   machine.files.MountHostFile(LanguageFile, "no such file of the host");  // asking for it throws
   EXPECT_EQ(Look("FClose", "&Close"), "&Close");

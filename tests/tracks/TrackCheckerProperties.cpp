@@ -26,15 +26,21 @@ std::string RandomTrack(RandomText& random) {
   return random.OneIn(2) ? text : random.Mutated(text);
 }
 
+const VerdictProperty Property{.path = "C:\\Games\\Skidrun2\\tracks\\hill.trk",
+                               .makeFile = RandomTrack,
+                               .check = CheckTrackFile,
+                               .reference = Reference::CheckTrack,
+                               .firstCode = -5,
+                               .lastCode = 4};
+
 TEST(TrackCheckerProperty, FindsInRandomFilesWhatAPlainCheckerFinds) {
   Simulated::Machine machine;
-  ExpectTheVerdictsOfThePlainChecker(machine, RandomText(4),
-                                     {.path = "C:\\Games\\Skidrun2\\tracks\\hill.trk",
-                                      .makeFile = RandomTrack,
-                                      .check = CheckTrackFile,
-                                      .reference = Reference::CheckTrack,
-                                      .firstCode = -5,
-                                      .lastCode = 4});
+  ExpectTheVerdictsOfThePlainChecker(machine, RandomText(4), Property);
+}
+
+TEST(TrackCheckerProperty, FindsInLongLinesWhatAPlainCheckerFinds) {
+  Simulated::Machine machine;
+  ExpectTheVerdictsOnLongLines(machine, RandomText(14), Property);
 }
 
 }  // namespace

@@ -103,7 +103,7 @@ TEST_F(TrackChecker, LinesBehindTheWeatherAreCountedAndNotLookedAt) {
 }
 
 TEST_F(TrackChecker, LinesBehindTheWeatherMayBeOfAnyLength) {
-  const std::string text(3 * LineReader::LongestLine, 'x');
+  const std::string text(3 * LineReader::LongestPiece, 'x');
   EXPECT_EQ(Check({"0", "0", "5000", "-1", "0", text, "", text}), Passed(8, 1));
 }
 
@@ -229,10 +229,16 @@ TEST_F(TrackChecker, AFileThatAnotherProgramHasForItselfIsToldAsMissing) {
   EXPECT_EQ(CheckFile(), Passed(5, 1));
 }
 
-TEST_F(TrackChecker, ALineThatIsTooLongForMemoryCountsAsAMissingFile) {
-  const std::string blanks(LineReader::LongestLine - 1, ' ');
-  EXPECT_EQ(Check({"0" + blanks, "0", "5000", "-1", "0"}), Passed(5, 1));
-  EXPECT_EQ(Check({"0 " + blanks, "0", "5000", "-1", "0"}), Unreadable());
+TEST_F(TrackChecker, ALineOfTenMegabytesIsJudgedByTheSameRules) {
+  const auto stretch = [](char c) { return std::string(10 << 20, c); };
+  const Verdict noNumber{1, TrackFault::CurveNotNumeric,
+                         "(L1P1): Invalid track curve format. All track lines must be a number."};
+  EXPECT_EQ(Check({stretch('x')}), noNumber);
+  EXPECT_EQ(Check({"1" + stretch(' ') + "x", "0", "5000", "-1", "0"}), noNumber);
+  EXPECT_EQ(Check({stretch(' ') + "1" + stretch(' '), "0", "5000", "-1", "0"}), Passed(5, 1));
+  EXPECT_EQ(Check({"0", stretch('0') + "4"}),
+            (Verdict{2, TrackFault::SurfaceOutOfRange, std::string("(L2P1): ") + SurfaceRange}));
+  EXPECT_EQ(Check({"0", "0", stretch('9')}), Unreadable()) << "a number beyond 32 bits";
 }
 
 TEST_F(TrackChecker, TheCheckedFileStaysAsItWas) {

@@ -26,8 +26,8 @@ TEST_F(BoxTexts, ControlCharactersAreSeenAndEndNothing) {
   EXPECT_EQ(BoxText("\x01\x1B\x1F \x7F"), "??? ?");
 }
 
-TEST_F(BoxTexts, OnlyALineEndEndsALine) {
-  EXPECT_EQ(BoxText("a\nb\rc\r\nd\r"), "a?b?c\r\nd?");
+TEST_F(BoxTexts, ALoneLineFeedIsALineEndAndALoneCarriageReturnIsNot) {
+  EXPECT_EQ(BoxText("a\nb\rc\r\nd\r\n\n"), "a\nb?c\r\nd\r\n\n");
 }
 
 TEST_F(BoxTexts, ALongTextKeepsItsBeginningAndItsEnd) {

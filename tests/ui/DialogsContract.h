@@ -49,10 +49,10 @@ TEST_F(DialogsContract, ABoxShowsItsTextOverTheWindow) {
 
 TEST_F(DialogsContract, ABoxShowsATextWithControlCharactersToItsEnd) {
   TestMachine::WhenModalWindowOpens([] {
-    EXPECT_EQ(TestMachine::MessageBoxOnScreen().text, "M?o?t?o?r? is\r\nunknown.");
+    EXPECT_EQ(TestMachine::MessageBoxOnScreen().text, "M?o?t?o?r? is\r\nun\nknown.");
     TestMachine::Press("Enter");
   });
-  const char text[] = "M\0o\0t\0o\0r\0 is\r\nunknown.";
+  const char text[] = "M\0o\0t\0o\0r\0 is\r\nun\nknown.";
   Platform::MsgBox({text, sizeof text - 1}, "File Error", Platform::Icon::Critical);
 }
 
@@ -256,6 +256,38 @@ TEST_F(FileDialogContract, AnInitialFolderThatIsNoneIsDoneWithout) {
     open.initialFolder = wrong;
     EXPECT_EQ(Typing(folder + "\\hill.trk", open), folder + "\\hill.trk") << wrong;
   }
+}
+
+// The user goes elsewhere in one dialog; the next opens in its own folder all the same, even in the
+// one where the first dialog began.
+TEST_F(FileDialogContract, OpensInItsOwnFolderWhereverTheUserWasLast) {
+  const std::string other = folder + "\\other";
+  TestMachine::PutFolder(other);
+  for (const std::string& each : {folder, other}) TestMachine::PutFile(each + "\\hill.trk", "1");
+  EXPECT_EQ(Typing("hill.trk", open), folder + "\\hill.trk");
+  EXPECT_EQ(Typing(other + "\\hill.trk", open), other + "\\hill.trk");
+  EXPECT_EQ(Typing("hill.trk", open), folder + "\\hill.trk");
+  EXPECT_EQ(Typing("lake.trk", save), folder + "\\lake.trk");
+  EXPECT_EQ(Typing(other + "\\lake.trk", save), other + "\\lake.trk");
+  EXPECT_EQ(Typing("lake.trk", save), folder + "\\lake.trk");
+  open.initialFolder = other;
+  EXPECT_EQ(Typing("hill.trk", open), other + "\\hill.trk");
+}
+
+TEST_F(FileDialogContract, AnInitialFolderMayBeARootOrEndInABackslash) {
+  TestMachine::PutFile(folder + "\\hill.trk", "1");
+  open.initialFolder = folder + "\\";
+  EXPECT_EQ(Typing(folder + "\\hill.trk", open), folder + "\\hill.trk");
+  open.initialFolder = "C:\\";
+  EXPECT_EQ(Typing("sk2-nothing.trk", open), "C:\\sk2-nothing.trk");
+}
+
+TEST_F(FileDialogContract, ShowingADialogChangesNothingInIt) {
+  const Platform::FileDialog& shown = save;
+  EXPECT_EQ(Typing(folder + "\\other.trk", save), folder + "\\other.trk");
+  EXPECT_EQ(shown.title, "Track file");
+  EXPECT_EQ(shown.initialFolder, folder);
+  EXPECT_EQ(shown.pattern, "*.trk");
 }
 
 TEST_F(FileDialogContract, AFileToOpenNeedNotExist) {

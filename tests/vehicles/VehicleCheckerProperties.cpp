@@ -28,16 +28,23 @@ std::string RandomVehicle(RandomText& random) {
   return random.OneIn(2) ? text : random.Mutated(text);
 }
 
+const VerdictProperty Property{.path = "C:\\Games\\Skidrun2\\vehicles\\rocket\\rocket.vhc",
+                               .makeFile = RandomVehicle,
+                               .check = CheckVehicleFile,
+                               .reference = Reference::CheckVehicle,
+                               .firstCode = -3,
+                               .lastCode = 4};
+
 TEST(VehicleCheckerProperty, FindsInRandomFilesWhatAPlainCheckerFinds) {
   Simulated::Machine machine;
   machine.files.Put("C:\\Games\\Skidrun2\\vehicles\\rocket\\engine.wav", "");
-  ExpectTheVerdictsOfThePlainChecker(machine, RandomText(3),
-                                     {.path = "C:\\Games\\Skidrun2\\vehicles\\rocket\\rocket.vhc",
-                                      .makeFile = RandomVehicle,
-                                      .check = CheckVehicleFile,
-                                      .reference = Reference::CheckVehicle,
-                                      .firstCode = -3,
-                                      .lastCode = 4});
+  ExpectTheVerdictsOfThePlainChecker(machine, RandomText(3), Property);
+}
+
+TEST(VehicleCheckerProperty, FindsInLongLinesWhatAPlainCheckerFinds) {
+  Simulated::Machine machine;
+  machine.files.Put("C:\\Games\\Skidrun2\\vehicles\\rocket\\engine.wav", "");
+  ExpectTheVerdictsOnLongLines(machine, RandomText(13), Property);
 }
 
 }  // namespace

@@ -258,10 +258,24 @@ TEST_F(VehicleChecker, AFileThatAnotherProgramReadsIsChecked) {
   EXPECT_EQ(Check(), Passed());
 }
 
-TEST_F(VehicleChecker, ALineThatIsTooLongForMemoryCountsAsAMissingFile) {
-  const std::string longest = "skidrun=1=" + std::string(LineReader::LongestLine - 10, 'x');
-  EXPECT_EQ(Check(longest + "\r\nskidrun=x"), (Verdict{2, VehicleFault::InvalidValue, NotNumeric}));
-  EXPECT_EQ(Check(longest + "x\r\nskidrun=x"), Unreadable());
+TEST_F(VehicleChecker, ALineOfTenMegabytesIsJudgedByTheSameRules) {
+  const std::string stretch(10 << 20, 'x');
+  EXPECT_EQ(Check(stretch), (Verdict{1, VehicleFault::InvalidSyntax, NoEquals}));
+  EXPECT_EQ(Check("skidrun=" + stretch), (Verdict{1, VehicleFault::InvalidValue, NotNumeric}));
+  EXPECT_EQ(Check("skidrun=" + std::string(10 << 20, '9')), Unreadable());
+  EXPECT_EQ(Check("skidrun=1=" + stretch + "\r\nskidrun=x"),
+            (Verdict{2, VehicleFault::InvalidValue, NotNumeric}));
+  for (const std::string& line : {stretch + "=1", "skidrun" + stretch + "=1"}) {
+    const Verdict unknown = Check("skidrun=1\r\n" + line);
+    EXPECT_EQ(unknown.result, 2);
+    EXPECT_EQ(unknown.code, VehicleFault::InvalidVariable);
+    EXPECT_THAT(unknown.message, StartsWith("Invalid variable name (" + line.substr(0, 100)));
+    EXPECT_THAT(unknown.message, testing::EndsWith("variable names are case sensitive."));
+  }
+  const Verdict noSound = Check("hornsound=" + stretch);
+  EXPECT_EQ(noSound.result, 1);
+  EXPECT_EQ(noSound.code, VehicleFault::NonexistentSound);
+  EXPECT_THAT(noSound.message, StartsWith("The sound " + Folder + "\\xxx"));
 }
 
 TEST_F(VehicleChecker, TheCheckedFileStaysAsItWas) {

@@ -12,7 +12,10 @@ namespace {
 
 // The full path of what the user typed.
 std::string Completed(const FileDialog& dialog, std::string path) {
-  if (NameOf(path) == path) path = dialog.initialFolder + "\\" + path;
+  if (NameOf(path) == path) {
+    const bool endsInBackslash = NameOf(dialog.initialFolder).empty();
+    path = dialog.initialFolder + (endsInBackslash ? "" : "\\") + path;
+  }
   if (!dialog.defaultExtension.empty() && NameOf(path).find('.') == std::string::npos) {
     path += "." + dialog.defaultExtension;
   }
@@ -30,7 +33,7 @@ bool MayBeChosen(const FileDialog& dialog, const std::string& path) {
 
 }  // namespace
 
-std::string FileDialog::Show() {
+std::string FileDialog::Show() const {
   Simulated::Machine& machine = Simulated::TheMachine();
   Simulated::Script& script = machine.user.script();
   if (machine.faults.Strikes("FileDialog " + title)) throw RuntimeError(RuntimeError::DeviceError);

@@ -36,6 +36,18 @@ void Registry::Delete(RegistryRoot root, RegistryView view, const std::string& s
   values_.erase(PlaceOf(root, view, subkey, name));
 }
 
+bool Registry::HasKey(RegistryRoot root, RegistryView view, const std::string& subkey) const {
+  const auto [ofRoot, ofView, key, unused] = PlaceOf(root, view, subkey, "");
+  for (const auto& [place, value] : values_) {
+    const std::string& known = std::get<2>(place);
+    if (std::get<0>(place) == ofRoot && std::get<1>(place) == ofView &&
+        (known == key || known.starts_with(key + "\\"))) {
+      return true;
+    }
+  }
+  return false;
+}
+
 std::optional<RegistryValue> Registry::Find(RegistryRoot root, RegistryView view,
                                             const std::string& subkey,
                                             const std::string& name) const {
@@ -54,6 +66,12 @@ Registry::Place Registry::PlaceOf(RegistryRoot root, RegistryView view, const st
 }  // namespace Simulated
 
 namespace Platform {
+
+bool HasRegistryKey(RegistryRoot root, RegistryView view, const std::string& subkey) {
+  Simulated::Machine& machine = Simulated::TheMachine();
+  if (machine.faults.Strikes("HasRegistryKey " + subkey)) return false;
+  return machine.registry.HasKey(root, view, subkey);
+}
 
 std::optional<RegistryValue> QueryRegistryValue(RegistryRoot root, RegistryView view,
                                                 const std::string& subkey, const std::string& name,

@@ -25,7 +25,9 @@ class Registry {
   void Delete(Platform::RegistryRoot root, Platform::RegistryView view, const std::string& subkey,
               const std::string& name);
 
-  // For the service.
+  // For the service. A key is there if a value stands in it or below it.
+  bool HasKey(Platform::RegistryRoot root, Platform::RegistryView view,
+              const std::string& subkey) const;
   std::optional<Platform::RegistryValue> Find(Platform::RegistryRoot root,
                                               Platform::RegistryView view,
                                               const std::string& subkey,

@@ -89,7 +89,7 @@ LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
       return IsPage(control) ? code & ~(DLGC_WANTALLKEYS | DLGC_WANTTAB | DLGC_HASSETSEL) : code;
     }
     case WM_CHAR:
-      // Not every version of the system selects everything by itself.
+      // A text box of many lines need not select everything by itself.
       if (control.kind() == Control::Kind::TextBox && wParam == CtrlA) {
         SendMessageA(window, EM_SETSEL, 0, -1);
         return 0;

@@ -9,7 +9,8 @@ namespace Platform::Display {
 
 namespace {
 
-// What only Windows 10 has is asked for by name, so that the program starts on older systems too.
+// What the first releases of Windows 10 lack is asked for by name: the system would not start a
+// program that imports it there.
 template <class Function>
 Function FromUser32(const char* name) {
   return reinterpret_cast<Function>(

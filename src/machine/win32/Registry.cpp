@@ -8,8 +8,13 @@ namespace {
 
 class RegistryKey {
  public:
-  RegistryKey(HKEY root, const std::string& subkey, REGSAM access) {
-    if (RegOpenKeyExA(root, subkey.c_str(), 0, access, &key_) != ERROR_SUCCESS) key_ = nullptr;
+  // For querying only: whoever may read the game's entry need not be allowed to change it.
+  RegistryKey(RegistryRoot root, RegistryView view, const std::string& subkey) {
+    const HKEY from = root == RegistryRoot::LocalMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+    const REGSAM part = view == RegistryView::Of32Bit ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+    if (RegOpenKeyExA(from, subkey.c_str(), 0, KEY_QUERY_VALUE | part, &key_) != ERROR_SUCCESS) {
+      key_ = nullptr;
+    }
   }
   RegistryKey(const RegistryKey&) = delete;
   RegistryKey& operator=(const RegistryKey&) = delete;
@@ -24,12 +29,14 @@ class RegistryKey {
 
 }  // namespace
 
+bool HasRegistryKey(RegistryRoot root, RegistryView view, const std::string& subkey) {
+  return RegistryKey(root, view, subkey).get() != nullptr;
+}
+
 std::optional<RegistryValue> QueryRegistryValue(RegistryRoot root, RegistryView view,
                                                 const std::string& subkey, const std::string& name,
                                                 size_t capacity) {
-  const RegistryKey key(
-      root == RegistryRoot::LocalMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER, subkey,
-      KEY_QUERY_VALUE | (view == RegistryView::Of32Bit ? KEY_WOW64_32KEY : KEY_WOW64_64KEY));
+  const RegistryKey key(root, view, subkey);
   if (!key.get()) return std::nullopt;
 
   RegistryValue value{RegistryType::Other, std::string(capacity, '\0')};

@@ -1,0 +1,23 @@
+#include "platform/FileLines.h"
+
+#include "base/ShortLine.h"
+#include "platform/LongStep.h"
+
+namespace Platform {
+
+FileLines::FileLines(const std::string& path)
+    : file_(path), lines_([this](char* buffer, size_t size) {
+        AnswerMessages();
+        return file_.Read(buffer, size);
+      }) {}
+
+// The line that begins so, shortened.
+std::string_view FileLines::Shortened(std::string_view beginning) {
+  ShortLine line;
+  line.Append(beginning);
+  for (std::string_view piece; lines_.NextPiece(piece);) line.Append(piece);
+  shortened_ = line.text();
+  return shortened_;
+}
+
+}  // namespace Platform
