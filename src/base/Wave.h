@@ -16,8 +16,9 @@ struct Wave {
   std::string samples;
 
   size_t FrameSize() const { return static_cast<size_t>(channels) * bits / 8; }
+  size_t Frames() const { return samples.size() / FrameSize(); }
   // How long it lasts when played at its own rate.
-  double Seconds() const { return static_cast<double>(samples.size() / FrameSize()) / rate; }
+  double Seconds() const { return static_cast<double>(Frames()) / rate; }
 };
 
 // The rates that a sound can have, and be played at: those of DirectSound.
