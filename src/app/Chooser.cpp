@@ -7,7 +7,7 @@
 
 Chooser::Chooser(const LangText& title, const LangText& prompt, std::vector<Entry> entries,
                  MainWindow whileRunning)
-    : Form(title),
+    : Form(title, {.isResizable = true}),
       entries_(std::move(entries)),
       whileRunning_(whileRunning),
       What(*this, {.label = prompt}),

@@ -34,7 +34,7 @@ constexpr const char* CtrlP = " (CTRL+P)";
 }  // namespace
 
 SK2UtilityPack::SK2UtilityPack()
-    : Form(FixedText(Program::Name)),
+    : Form(FixedText(Program::Name), {.isResizable = true, .isDialog = false}),
       XFile(*this, {.text = AppTexts.XFile}),
       FClose(XFile, {.text = AppTexts.FClose, .suffix = " (Alt+F4)"}),
       XVehicles(*this, {.text = AppTexts.XVehicle}),

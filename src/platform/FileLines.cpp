@@ -1,13 +1,12 @@
 #include "platform/FileLines.h"
 
 #include "base/ShortLine.h"
-#include "platform/LongStep.h"
 
 namespace Platform {
 
 FileLines::FileLines(const std::string& path)
     : file_(path), lines_([this](char* buffer, size_t size) {
-        AnswerMessages();
+        step_.AnswerOthers();
         return file_.Read(buffer, size);
       }) {}
 

@@ -1,5 +1,5 @@
 // The lines of a file of the game, which may be too large to be held in memory. Reading them is a
-// long step: other programs are answered between its blocks.
+// long step, which lives as long as this object: other programs are answered between its blocks.
 #pragma once
 
 #include <string>
@@ -7,6 +7,7 @@
 
 #include "base/LineReader.h"
 #include "platform/Files.h"
+#include "platform/LongStep.h"
 
 namespace Platform {
 
@@ -30,6 +31,7 @@ class FileLines {
  private:
   std::string_view Shortened(std::string_view beginning);
 
+  LongStep step_;
   FileReader file_;
   LineReader lines_;
   std::string shortened_;

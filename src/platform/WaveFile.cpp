@@ -9,10 +9,11 @@ namespace Platform {
 
 Wave ReadWaveFile(const std::string& path) {
   constexpr size_t BlockSize = 256 << 10;
+  const LongStep step;
   FileReader file(path);
   std::string bytes;
   for (;;) {
-    AnswerMessages();
+    step.AnswerOthers();
     const size_t size = bytes.size();
     bytes.resize(size + BlockSize);
     const size_t count = file.Read(bytes.data() + size, BlockSize);

@@ -6,7 +6,7 @@
 #include "records/RecordFile.h"
 #include "ui/Messages.h"
 
-HighScores::HighScores() : Form(RecordTexts.RecordViewerTitle) {
+HighScores::HighScores() : Form(RecordTexts.RecordViewerTitle, {.isResizable = true}) {
   Tracks.OnSelect = [this] { Tracks_Click(); };
   Del.OnClick = [this] { Del_Click(); };
   Reset.OnClick = [this] { Reset_Click(); };

@@ -83,6 +83,7 @@ void RandomTrack() {
 
 void WriteRandomParts(int32_t count, Platform::FileWriter& file) {
   using Platform::RandomRange;
+  const Platform::LongStep step;
   std::string block;
   block.reserve(BlockSize + 64);
   for (int32_t i = 0; i < count; ++i) {
@@ -94,7 +95,7 @@ void WriteRandomParts(int32_t count, Platform::FileWriter& file) {
     if (block.size() < BlockSize) continue;
     file.Write(block);
     block.clear();
-    Platform::AnswerMessages();
+    step.AnswerOthers();
   }
   file.Write(block);
 }

@@ -23,7 +23,7 @@ void Refuse(const std::string& text) {
 
 }  // namespace
 
-TrackParts::TrackParts() : Form(TrackTexts.NewPartTitle) {
+TrackParts::TrackParts() : Form(TrackTexts.NewPartTitle, {.isResizable = true}) {
   OnLoad = [this] { Form_Load(); };
   Submit.OnClick = [this] { Submit_Click(); };
   Ccl.OnClick = [this] { Ccl_Click(); };
@@ -56,6 +56,7 @@ void TrackParts::Submit_Click() {
   // The editor's window is shown first: what a hidden list selects, a screen reader does not tell.
   GoBack();
   if (OnAdded) OnAdded(line);
+  GoBack();
 }
 
 void TrackParts::Ccl_Click() {

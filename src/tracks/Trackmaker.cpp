@@ -5,7 +5,7 @@
 #include "tracks/TrackManager.h"
 #include "tracks/TrackParts.h"
 
-Trackmaker::Trackmaker() : Form(TrackTexts.TrackmakerTitle) {
+Trackmaker::Trackmaker() : Form(TrackTexts.TrackmakerTitle, {.isResizable = true}) {
   OnLoad = [this] { Form_Load(); };
   OnKeyDown = [this](Platform::KeyEvent& key) { Form_KeyDown(key); };
   NewPart.OnClick = [this] { NewPart_Click(); };

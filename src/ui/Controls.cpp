@@ -71,6 +71,7 @@ void TextBox::SelectAll() {
 
 void TextBox::Typed(const std::string& text) {
   if (text == text_) return;
+  if (!form().TakesInput()) return SetText(text_);
   text_ = text;
   if (OnChange) Dispatch(OnChange);
 }
@@ -129,6 +130,7 @@ void ListBox::Select(int index) {
 }
 
 void ListBox::Selected(int index) {
+  if (!form().TakesInput()) return Select(selected_);
   selected_ = Contains(index) ? index : -1;
   if (OnSelect) Dispatch(OnSelect);
 }
@@ -140,13 +142,15 @@ bool ListBox::TakeSelection() {
 }
 
 void ListBox::DoubleClicked() {
-  if (OnDoubleClick) Dispatch(OnDoubleClick);
+  if (OnDoubleClick && form().TakesInput()) Dispatch(OnDoubleClick);
 }
 
 void Button::Click() {
-  if (!TakesFocus() || !OnClick) return;
+  if (!TakesFocus() || !OnClick || !form().TakesInput()) return;
   Dispatch([this] {
-    if (form().TakeSelections() && TakesFocus()) OnClick();
+    if (!form().TakeSelections() || !TakesFocus() || !OnClick) return;
+    const auto handler = OnClick;  // which may be the end of this button
+    handler();
   });
 }
 

@@ -1,6 +1,7 @@
 // A loaded window on the screen. Each machine makes its own of it: native windows, or a picture of
 // them in memory. It mirrors the form and its controls and tells them what the user does, by the
-// functions that they keep "for the view". Only Forms, Controls and Menu use it.
+// functions that they keep "for the view". Only Forms, Stage, Controls, Menu
+// and Timer use it.
 #pragma once
 
 #include <memory>
@@ -10,6 +11,7 @@
 namespace Platform {
 
 class Form;
+class Timer;
 
 class FormView {
  public:
@@ -49,6 +51,12 @@ class FormView {
   // The row that is selected on the screen; -1 if there is none. Another program, such as a screen
   // reader, may have selected it without a word to this one.
   int SelectedRow(const ListBox& list) const;
+
+  // Lets the timer's time begin, and tells it each time that it is over: Timer::Tick, if it may
+  // tick then, otherwise as soon as it may. Starting fails with DeviceError if there is no room for
+  // another timer. No tick comes from a timer that was stopped, however long it was over.
+  void StartTimer(Timer& timer);
+  void StopTimer(Timer& timer);
 
   struct Native;
   Native& native() const { return *native_; }

@@ -6,40 +6,18 @@
 #include <string_view>
 #include <utility>
 
-#include "base/PerRun.h"
 #include "base/RuntimeError.h"
 #include "text/FailureText.h"
 #include "text/StringTable.h"
 #include "ui/BoxView.h"
 #include "ui/FormView.h"
 #include "ui/MsgBox.h"
+#include "ui/Stage.h"
+#include "ui/Timer.h"
 
 namespace Platform {
 
-// The windows of a run and which of them is seen.
-struct Stage {
-  Form* main = nullptr;
-  Form* current = nullptr;  // on the screen; null only before the start and after the end
-  bool isLeaving = false;   // current has given up its place, and waits for who takes it
-  // The windows from which the current one was opened, the first one first. They are hidden, and it
-  // goes back to the last of them.
-  std::vector<Form*> openers;
-  int dispatches = 0;  // events being handled, one within the other
-  bool hasEnded = false;
-  std::vector<Form*> modals;  // over the current window, the one in use last
-
-  void Put(Form& form);
-  void GoBack();
-  void Settle();
-  void End();
-  void Forget(Form& form);
-};
-
 namespace {
-
-Stage& TheStage() {
-  return PerRun<Stage>();
-}
 
 // Tells the user that an action could not be finished.
 void Report(const LangText& cause, const std::string& file) {
@@ -49,6 +27,7 @@ void Report(const LangText& cause, const std::string& file) {
 // The same where the report itself fails: with nothing that could fail again.
 void ReportInBrief(const LangText& cause) noexcept {
   try {
+    const BoxOverStage box;
     ShowBox({cause.english, RuntimeErrorTexts.Title.english, Icon::Critical, Buttons::Ok}, true);
   } catch (...) {
     // Nothing is left that could tell of it; the program goes on.
@@ -97,61 +76,8 @@ void AddSharedKeys(std::vector<std::string>& shared, const std::vector<MenuItem*
 
 }  // namespace
 
-void Stage::Put(Form& form) {
-  const bool isReplacing = std::exchange(isLeaving, false);
-  if (hasEnded || current == &form) return;
-  Form* const previous = current;
-  // The new window is shown before the old one goes, so that no other program comes between them.
-  current = &form;
-  form.isVisible_ = true;
-  try {
-    form.view_->Show(previous ? previous->view() : nullptr);
-  } catch (...) {
-    current = previous;
-    form.isVisible_ = false;
-    form.view_->Hide();
-    throw;
-  }
-  const auto place = std::find(openers.begin(), openers.end(), &form);
-  if (place != openers.end()) {
-    openers.erase(place, openers.end());  // this is the way back
-  } else if (previous && !isReplacing) {
-    openers.push_back(previous);
-  }
-  if (previous) {
-    previous->isVisible_ = false;
-    if (previous->view_) previous->view_->Hide();
-  }
-}
-
-void Stage::GoBack() {
-  Form* const opener = openers.empty() ? main : openers.back();
-  if (opener && opener != current) opener->Show();
-}
-
-void Stage::Settle() {
-  if (!isLeaving || !modals.empty() || hasEnded) return;
-  isLeaving = false;
-  GoBack();
-}
-
-void Stage::End() {
-  hasEnded = true;
-  for (Form* form : modals) form->EndModal();
-  if (!current) return;
-  current->isVisible_ = false;
-  if (current->view_) current->view_->Hide();
-  current = nullptr;
-}
-
-void Stage::Forget(Form& form) {
-  if (current == &form) current = nullptr;
-  if (main == &form) main = nullptr;
-  std::erase(modals, &form);
-  std::erase(openers, &form);
-}
-
-Form::Form(const LangText& title) : titleText_(title) {
+Form::Form(const LangText& title, const Frame& frame)
+    : titleText_(title), frame_(frame), life_(std::make_shared<char>()) {
   TheStage();  // made before any window of the run, and so destroyed after it
 }
 
@@ -166,74 +92,124 @@ void Form::SetTitle(const std::string& title) {
 }
 
 void Form::Show() {
-  Load();
-  TheStage().Put(*this);
+  if (isModal_ || isArriving_) return;  // it is there, or is coming
+  Stage& stage = TheStage();
+  if (stage.IsCovered()) return stage.PutOff(*this, &Form::Show);
+  const Form* const before = stage.InUse();
+  if (Load()) stage.Come(*this, before);
 }
 
 void Form::Leave() {
-  if (TheStage().current != this) return;
-  TheStage().isLeaving = true;
-  if (TheStage().dispatches == 0) TheStage().Settle();
+  if (isModal_) return EndModal();
+  isArriving_ = false;
+  if (TheStage().IsOn(*this)) TheStage().Leave();
 }
 
 void Form::GoBack() {
-  if (TheStage().current == this) TheStage().GoBack();
+  if (isModal_) return EndModal();
+  isArriving_ = false;
+  Stage& stage = TheStage();
+  if (!stage.IsOn(*this)) return;
+  if (stage.IsCovered()) return stage.PutOff(*this, &Form::GoBack);
+  stage.GoBack();
 }
 
 void Form::Unload() {
-  if (!view_) return;
-  if (OnUnload) OnUnload();
-  Stage& stage = TheStage();
-  if (this == stage.main) return EndProgram();
   if (isModal_) return EndModal();
-  if (this == stage.current) stage.GoBack();
-  std::erase(stage.openers, this);
+  if (!view_ || isUnloading_) return;
+  Stage& stage = TheStage();
+  if (stage.IsOn(*this) && stage.IsCovered()) return stage.PutOff(*this, &Form::Unload);
+  isArriving_ = false;
+  if (!RunOnUnload()) return;
+  if (this == stage.main()) return EndProgram();
+  if (stage.IsOn(*this)) stage.GoBack();
+  stage.ForgetOpener(*this);
   TakeDown();
 }
 
+// False if the handler has destroyed the window.
+bool Form::RunOnUnload() {
+  if (!OnUnload) return true;
+  const auto handler = OnUnload;
+  const std::weak_ptr<const void> life = life_;
+  isUnloading_ = true;
+  try {
+    handler();
+  } catch (...) {
+    if (!life.expired()) isUnloading_ = false;
+    throw;
+  }
+  if (life.expired()) return false;
+  isUnloading_ = false;
+  return true;
+}
+
 void Form::ShowModal() {
-  Load();
-  Form* const owner = ActiveForm();
-  TheStage().modals.push_back(this);
+  if (isVisible_ || isArriving_) return;
+  const std::weak_ptr<const void> life = life_;
+  if (!Load()) {
+    if (!life.expired()) Unload();
+    return;
+  }
+  Stage& stage = TheStage();
+  if (stage.HasEnded()) return TakeDown();
+  // The window is worked by the user, even if a long step asks by it.
+  const LongStep::Pause pause;
+  const Form* const owner = stage.InUse();
+  stage.ModalOpens(*this);
   isModal_ = true;
+  isEnding_ = false;
   isVisible_ = true;
   try {
     view_->RunModal(owner ? owner->view() : nullptr);
   } catch (...) {
-    ModalEnded();
+    if (!life.expired()) ModalEnded();
     throw;
   }
-  ModalEnded();
+  if (!life.expired()) ModalEnded();
 }
 
 void Form::ModalEnded() {
   isModal_ = false;
-  std::erase(TheStage().modals, this);
   TakeDown();
+  TheStage().ModalCloses(*this);
 }
 
 void Form::EndModal() {
-  if (isModal_) view_->EndModal();
+  isArriving_ = false;
+  if (!isModal_ || isEnding_ || isUnloading_) return;
+  if (!RunOnUnload() || !isModal_) return;
+  isEnding_ = true;
+  view_->EndModal();
 }
 
-void Form::Load() {
-  if (view_) return;
+// False if the window is not to be shown any more: while it loaded it was left, unloaded or
+// destroyed.
+bool Form::Load() {
+  if (view_) return true;
   title_ = GetLangString(titleText_);
   for (Control* control : controls_) control->caption_ = GetLangString(control->captionText_);
   focus_ = nullptr;
   MoveFocusOn();
   view_ = std::make_unique<FormView>(*this);
-  if (!OnLoad) return;
+  if (!OnLoad) return true;
+  const auto handler = OnLoad;
+  const std::weak_ptr<const void> life = life_;
+  isArriving_ = true;
   try {
-    OnLoad();
+    handler();
   } catch (...) {
-    TakeDown();
+    if (life.expired()) throw;
+    isArriving_ = false;
+    if (!isVisible_) TakeDown();
     throw;
   }
+  return !life.expired() && std::exchange(isArriving_, false);
 }
 
 void Form::TakeDown() {
   isVisible_ = false;
+  for (Timer* timer : timers_) timer->Stop();
   view_.reset();
 }
 
@@ -270,31 +246,43 @@ Button* Form::cancelButton() const {
 }
 
 bool Form::TakeSelections() {
+  const std::weak_ptr<const void> life = life_;
   const bool wasVisible = isVisible_;
-  for (Control* control : controls_) {
+  const std::vector<Control*> controls = controls_;
+  for (Control* control : controls) {
     if (!view_ || control->kind() != Control::Kind::ListBox) continue;
     auto* list = static_cast<ListBox*>(control);
-    if (list->TakeSelection() && list->OnSelect) list->OnSelect();
+    if (!list->TakeSelection() || !list->OnSelect) continue;
+    const auto handler = list->OnSelect;
+    handler();
+    if (life.expired()) return false;
   }
   return isVisible_ == wasVisible;
 }
 
+bool Form::TakesInput() const {
+  return TheStage().LetsIn(*this);
+}
+
 bool Form::KeyDown(KeyEvent key) {
+  if (!TakesInput()) return false;
   bool isHere = false;
   Dispatch([&] { isHere = TakeSelections(); });
   if (!isHere) return true;
   if (!OnKeyDown) return false;
   if (focus_ && focus_->kind() == Control::Kind::TextBox && IsForEditing(key)) return false;
-  Dispatch([&] { OnKeyDown(key); });
-  return key.isHandled;
+  const Form* const before = this;
+  Dispatch([handler = OnKeyDown, &key] { handler(key); });
+  // To the window that has gone the key means nothing any more, and the next one must not get it.
+  return key.isHandled || TheStage().InUse() != before;
 }
 
 void Form::CloseRequested() {
-  const std::vector<Form*>& modals = TheStage().modals;
-  if (!modals.empty() && modals.back() != this) return;
+  if (!TakesInput()) return;
   Dispatch([this] {
-    if (OnClose) return OnClose();
-    Unload();
+    if (!OnClose) return Unload();
+    const auto handler = OnClose;
+    handler();
   });
 }
 
@@ -302,20 +290,14 @@ void Form::FocusArrived(Control& control) {
   focus_ = &control;
 }
 
-void Dispatch(const std::function<void()>& handler) noexcept {
-  Stage& stage = TheStage();
-  ++stage.dispatches;
+void Dispatch(std::function<void()> handler) noexcept {
+  TheStage().EventBegins();
   try {
     handler();
   } catch (...) {
     TellFailure();
   }
-  if (--stage.dispatches > 0) return;
-  try {
-    stage.Settle();
-  } catch (...) {
-    TellFailure();
-  }
+  TheStage().EventEnds();
 }
 
 void TellFailure() noexcept {
@@ -331,28 +313,28 @@ void TellFailure() noexcept {
 }
 
 void StartProgram(Form& main) {
-  TheStage().main = &main;
+  TheStage().SetMain(main);
   Dispatch([&] { main.Show(); });
-  // Without its main window the program could not even be closed.
-  if (!main.IsVisible()) EndProgram();
+  // Without a window the program could not even be closed.
+  if (!TheStage().InUse()) EndProgram();
 }
 
 Form& MainForm() {
-  return *TheStage().main;
+  return *TheStage().main();
 }
 
 void EndProgram() {
+  if (HasProgramEnded()) return;
   TheStage().End();
   EndMessageLoop();
 }
 
 bool HasProgramEnded() {
-  return TheStage().hasEnded;
+  return TheStage().HasEnded();
 }
 
 Form* ActiveForm() {
-  const Stage& stage = TheStage();
-  return stage.modals.empty() ? stage.current : stage.modals.back();
+  return TheStage().InUse();
 }
 
 std::vector<std::string> SharedAccessKeys(const Form& form) {

@@ -1,5 +1,7 @@
 #include "ui/Menu.h"
 
+#include <utility>
+
 #include "text/StringTable.h"
 #include "ui/FormView.h"
 #include "ui/Forms.h"
@@ -18,14 +20,21 @@ MenuItem::MenuItem(MenuItem& parent, const Options& options)
 }
 
 void MenuItem::SetChecked(bool isChecked) {
-  isChecked_ = isChecked;
-  if (form_.view()) form_.view()->MenuChanged();
+  const bool wasChecked = std::exchange(isChecked_, isChecked);
+  try {
+    if (form_.view()) form_.view()->MenuChanged();
+  } catch (...) {
+    isChecked_ = wasChecked;
+    throw;
+  }
 }
 
 void MenuItem::Choose() {
-  if (!OnClick) return;
+  if (!OnClick || !form_.TakesInput()) return;
   Dispatch([this] {
-    if (form_.TakeSelections()) OnClick();
+    if (!form_.TakeSelections()) return;
+    const auto handler = OnClick;  // which may be the end of the window
+    handler();
   });
 }
 

@@ -32,6 +32,7 @@ class MenuItem {
 
   bool IsEnabled() const { return !items_.empty() || OnClick != nullptr; }
   bool IsChecked() const { return isChecked_; }
+  // Fails with DeviceError if the bar cannot be made anew; it then stays as it is.
   void SetChecked(bool isChecked);
 
   std::function<void()> OnClick;

@@ -3,6 +3,7 @@
 #include "ui/BoxText.h"
 #include "ui/BoxView.h"
 #include "ui/Forms.h"
+#include "ui/Stage.h"
 
 namespace Platform {
 
@@ -13,6 +14,7 @@ constexpr size_t ShortText = 256;
 
 std::optional<Answer> Try(const std::string& text, const std::string& title, Icon icon,
                           Buttons buttons, bool isOwned) {
+  const BoxOverStage box;
   return ShowBox({text.c_str(), title.c_str(), icon, buttons}, isOwned);
 }
 

@@ -35,6 +35,7 @@ class Checker {
   std::optional<VehicleVariable> FindVariable(std::string_view name);
   std::optional<Fault> FaultOfSound(VehicleVariable variable, std::string_view value) const;
 
+  Platform::LongStep step_;
   std::string folder_;
   size_t expected_ = 0;  // the index of the variable behind the last one
 };
@@ -97,7 +98,7 @@ std::optional<Fault> Checker::FaultOfSound(VehicleVariable variable, std::string
   if (IsInternalSound(variable, value)) return std::nullopt;
   // An empty name stands for the folder itself. That exists, so it is no fault.
   const std::string path = folder_ + "\\" + std::string(value);
-  Platform::AnswerMessages();  // on a slow drive each name takes its time
+  step_.AnswerOthers();  // on a slow drive each name takes its time
   if (Platform::FileExists(path)) return std::nullopt;
   return Fault{VehicleFault::NonexistentSound,
                GetLangString(VehicleTexts.CVFNonexistentSoundFile1) + " " + path + " " +

@@ -57,4 +57,29 @@ inline void ExpectAnyFailureToEndInOneBox(const Menu& menu, const std::string& p
   EXPECT_GT(calls.size(), 4U) << "hardly a call was made to fail";
 }
 
+// What the user tries while a file is checked is in vain: the verdict is all that comes.
+inline void ExpectNothingToBeginMeanwhile(const Menu& menu, const std::string& path,
+                                          const std::string& bytes) {
+  Simulated::Machine machine;
+  Simulated::User& user = machine.user;
+  InstallGame(machine, "C:\\Games\\Skidrun2");
+  machine.files.Put(path, bytes);
+  StartPack();
+  user.ChoosesFile(path);
+  bool isTried = false;
+  user.DuringLongStep([&] {
+    user.Presses("Ctrl+N");
+    user.ChoosesMenu(menu);
+    user.ClosesWindow();
+    user.Presses("Alt+F4");
+    isTried = true;
+  });
+  user.ChoosesMenu(menu);
+  user.script().files.clear();  // not every check asks for a file
+  EXPECT_TRUE(isTried);
+  EXPECT_EQ(user.Boxes().size(), 1U);
+  EXPECT_EQ(user.LastBox().title, "File OK");
+  EXPECT_EQ(user.SeesWindow(), MainTitle);
+}
+
 }  // namespace CheckedFile

@@ -36,6 +36,17 @@ TEST_F(HelpMenuStory, AMissingHelpFileIsToldByTheSystem) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
+TEST_F(HelpMenuStory, NothingBeginsWhileTheSystemOpensADocument) {
+  StartPack();
+  user.DuringLongStep([this] {
+    user.Presses("Ctrl+N");
+    user.ClosesWindow();
+  });
+  user.ChoosesMenu({"Help", "View Documentation"});
+  EXPECT_EQ(user.SeesWindow(), PackTitle);
+  EXPECT_EQ(user.Boxes().size(), 1U) << "the system's own box is answered all the same";
+}
+
 TEST_F(HelpMenuStory, TheWebSitesAreOpened) {
   StartPack();
   user.ChoosesMenu({"Help", "Visit Websites", "Gloamworks"});

@@ -24,16 +24,27 @@ class PackStory : public Story {
     ::StartPack();
   }
 
-  // Ends at the test's end: every way must lead back to a window of the pack, or out of it.
+  // Ends at the test's end: every way must lead back to a window of the pack, and out of it.
   ~PackStory() override {
     if (!hasStarted_) return;
     ExpectAppendedTextsToBeListed();
     if (Platform::HasProgramEnded()) return;
     EXPECT_THAT(machine.screen.Titles(), testing::SizeIs(1)) << "not one window is on the screen";
     EXPECT_TRUE(Platform::ActiveForm() && Platform::ActiveForm()->IsVisible());
+    ClosePack();
   }
 
  private:
+  // Closes what is open, window by window: the main one comes at last, and with it the pack ends.
+  void ClosePack() {
+    constexpr int MostWindows = 5;
+    for (int i = 0; i < MostWindows && !Platform::HasProgramEnded(); ++i) {
+      user.ClosesWindow();
+    }
+    EXPECT_TRUE(Platform::HasProgramEnded()) << "the pack stays open: " << user.SeesWindow();
+    EXPECT_THAT(machine.screen.Titles(), testing::IsEmpty());
+  }
+
   // What the program has written into the language file is what translators get.
   void ExpectAppendedTextsToBeListed() const {
     const auto listed = Texts::Split(LanguageTemplate(), "\r\n");

@@ -55,10 +55,12 @@ TEST(Machine, ComplainsAboutStepsThatNeverCame) {
     machine.user.AnswersYes();
     machine.user.ChoosesFile("C:\\hill.trk");
     machine.user.WhenWindowOpens("Progress", [] {});
+    machine.user.DuringLongStep([] {});
   }
   EXPECT_THAT(ear.heard,
               ElementsAre("nobody asked for the answer Yes", "no file dialog came for C:\\hill.trk",
-                          "no window opened with the title Progress"));
+                          "no window opened with the title Progress",
+                          "no long step came in which the user could try something"));
 }
 
 TEST(Machine, TakesBackAtARunsEndWhatTheRunHeld) {
@@ -312,6 +314,13 @@ TEST_F(MachineStory, TheClockStandsStillOrTicks) {
   machine.clock.TickPerCall(2);
   EXPECT_EQ(SecondsSinceMidnight(), 86399);
   EXPECT_EQ(SecondsSinceMidnight(), 1) << "past midnight";
+}
+
+TEST_F(MachineStory, TheClockGoesOnWhileTheUserWaits) {
+  machine.clock.Set(86399);
+  user.Waits(1500);
+  EXPECT_EQ(SecondsSinceMidnight(), 0.5) << "past midnight";
+  EXPECT_EQ(machine.clock.milliseconds(), 1500);
 }
 
 TEST_F(MachineStory, EachWriteMovesTheStampThoughTheClockStands) {

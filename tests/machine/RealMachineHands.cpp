@@ -45,14 +45,14 @@ HWND KeyboardWindow() {
   return GetFocus() ? GetFocus() : GetActiveWindow();
 }
 
-void PostKey(WORD key, bool isDown, bool isAlt) {
+void PostKey(WORD key, bool isDown, bool isAlt, bool isHandledAtOnce = true) {
   LPARAM data = 1 | static_cast<LPARAM>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC)) << 16;
   if (isAlt) data |= 1 << 29;
   if (!isDown) data |= static_cast<LPARAM>(3) << 30;
   const UINT message =
       isDown ? (isAlt ? WM_SYSKEYDOWN : WM_KEYDOWN) : (isAlt ? WM_SYSKEYUP : WM_KEYUP);
   PostMessageA(KeyboardWindow(), message, key, data);
-  RealMachine::Pump();
+  if (isHandledAtOnce) RealMachine::Pump();
 }
 
 void PutDown(const Stroke& stroke) {
@@ -123,7 +123,7 @@ struct Waiting {
   std::deque<std::function<void()>> actions;
   std::set<HWND> seen;
   UINT_PTR timer = 0;
-  std::optional<bool> replaces;  // the answer to a file dialog's own question, until it comes
+  int pressed = 0;  // the button to press in a file dialog's own box, until it comes; 0 for none
 };
 
 Waiting& TheWaiting() {
@@ -156,12 +156,11 @@ void CALLBACK LookForModalWindow(HWND, UINT, UINT_PTR, DWORD) {
   Waiting& waiting = TheWaiting();
   const HWND window = NewModalWindow();
   if (!window) return;
-  if (waiting.replaces) {
+  if (waiting.pressed) {
     waiting.seen.insert(window);
-    const int button = *waiting.replaces ? IDYES : IDNO;
-    waiting.replaces.reset();
+    const int button = std::exchange(waiting.pressed, 0);
     const HWND control = GetDlgItem(window, button);
-    EXPECT_NE(control, nullptr) << "no question: " << MessageBoxOnScreen().text;
+    EXPECT_NE(control, nullptr) << "another box: " << MessageBoxOnScreen().text;
     PostMessageA(window, WM_COMMAND, button, reinterpret_cast<LPARAM>(control));
     return;
   }
@@ -187,6 +186,12 @@ void StartLooking() {
 
 void Press(const std::string& key) {
   PressStroke(StrokeOf(key));
+}
+
+void PressWhileBusy(const std::string& key) {
+  const Stroke stroke = StrokeOf(key);
+  PostKey(stroke.key, true, stroke.isAlt, false);
+  PostKey(stroke.key, false, stroke.isAlt, false);
 }
 
 void HoldDown(const std::string& key) {
@@ -283,21 +288,49 @@ void ChooseMenu(const std::vector<std::string>& captions) {
   RealMachine::Pump();
 }
 
+void WaitUntil(const std::function<bool()>& condition) {
+  constexpr DWORD PatienceMs = 20000;
+  constexpr DWORD OftenMs = 10;
+  const ULONGLONG end = GetTickCount64() + PatienceMs;
+  while (!condition() && GetTickCount64() < end) {
+    MsgWaitForMultipleObjectsEx(0, nullptr, OftenMs, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+    RealMachine::Pump();
+  }
+}
+
+void LetTimeGoBy(int milliseconds) {
+  const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+  WaitUntil([&] { return GetTickCount64() >= end; });
+}
+
 void WhenModalWindowOpens(std::function<void()> action) {
   TheWaiting().actions.push_back(std::move(action));
   StartLooking();
 }
 
-void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces) {
+namespace {
+
+// Types a path and presses Enter. The dialog then shows a box of its own with that button, or none.
+void ChooseAndPress(const std::string& path, int button) {
   // The focus is on the box for the file's name.
   const HWND name = GetFocus();
   SendMessageA(name, EM_SETSEL, 0, -1);
   for (const char c : path) PostMessageA(name, WM_CHAR, static_cast<unsigned char>(c), 1);
   RealMachine::Pump();
-  TheWaiting().replaces = replaces;
+  TheWaiting().pressed = button;
   Press("Enter");
-  EXPECT_FALSE(TheWaiting().replaces) << "the dialog did not ask whether to replace " << path;
-  TheWaiting().replaces.reset();
+  EXPECT_EQ(TheWaiting().pressed, 0) << "the dialog showed no box for " << path;
+  TheWaiting().pressed = 0;
+}
+
+}  // namespace
+
+void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces) {
+  ChooseAndPress(path, !replaces ? 0 : *replaces ? IDYES : IDNO);
+}
+
+void ChooseInMissingFolder(const std::string& path) {
+  ChooseAndPress(path, IDOK);
 }
 
 void LeaveFileDialog() {

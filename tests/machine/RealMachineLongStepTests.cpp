@@ -29,7 +29,8 @@ class LongStep : public ContractTest {
           SendMessageTimeoutA(window, message, wParam, lParam, SMTO_NORMAL, PatienceMs, &answer);
       isOver = true;
     });
-    while (!isOver) Platform::AnswerMessages();
+    const Platform::LongStep step;
+    while (!isOver) step.AnswerOthers();
     other.join();
     if (!isAnswered) return std::nullopt;
     return answer;
@@ -58,19 +59,111 @@ TEST_F(LongStep, IsNotInterruptedByOthersThatPressAButtonOrCloseTheWindow) {
   EXPECT_TRUE(isSaved) << "the step is over";
 }
 
-TEST_F(LongStep, LeavesWhatTheUserDoesForLater) {
-  PostMessageA(GetFocus(), WM_KEYDOWN, 'A', 1);
-  PostMessageA(GetFocus(), WM_CHAR, 'a', 1);
-  Platform::AnswerMessages();
-  EXPECT_EQ(Name.text(), "");
+TEST_F(LongStep, PutsBackATextThatOthersChangeMeanwhile) {
+  Name.SetText("hill");
+  int changes = 0;
+  Name.OnChange = [&] { ++changes; };
+  const HWND edit = FindWindowExA(Platform::ActiveWindow(), nullptr, "Edit", nullptr);
+  EXPECT_TRUE(AnswerDuringStep(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("lake")));
+  EXPECT_EQ(TestMachine::Hears(), "Name, edit, hill, Alt+N");
+  EXPECT_EQ(changes, 0);
+  EXPECT_EQ(Name.text(), "hill");
+}
+
+// A library that waits within the step hands on whatever comes.
+TEST_F(LongStep, LetsNoLoopOfALibraryHandOnKeysAndClicks) {
+  bool isSaved = false;
+  Save.OnClick = [&] { isSaved = true; };
+  main.OnKeyDown = [&](Platform::KeyEvent&) { isSaved = true; };
+  const HWND button = FindWindowExA(Platform::ActiveWindow(), nullptr, "Button", nullptr);
+  {
+    const Platform::LongStep step;
+    PostMessageA(GetFocus(), WM_KEYDOWN, 'A', 1);
+    PostMessageA(GetFocus(), WM_CHAR, 'a', 1);
+    PostMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    PostMessageA(button, WM_LBUTTONUP, 0, 0);
+    PostMessageA(Platform::ActiveWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
+    PostMessageA(Platform::ActiveWindow(), WM_NCLBUTTONDOWN, HTCLOSE, 0);
+    PostMessageA(Platform::ActiveWindow(), WM_CLOSE, 0, 0);
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+      TranslateMessage(&message);
+      DispatchMessageA(&message);
+    }
+  }
+  EXPECT_FALSE(isSaved);
+  EXPECT_EQ(TestMachine::Hears(), "Name, edit, Alt+N");
+  EXPECT_TRUE(main.IsVisible());
+}
+
+TEST_F(LongStep, LeavesWhatTheUserDoesUntilItsEndAndDropsItThen) {
   MSG message;
-  EXPECT_TRUE(PeekMessageA(&message, GetFocus(), WM_KEYDOWN, WM_CHAR, PM_NOREMOVE));
+  {
+    const Platform::LongStep step;
+    PostMessageA(GetFocus(), WM_KEYDOWN, 'A', 1);
+    PostMessageA(GetFocus(), WM_CHAR, 'a', 1);
+    PostMessageA(GetFocus(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    PostMessageA(Platform::ActiveWindow(), WM_NCLBUTTONDOWN, HTCLOSE, 0);
+    PostMessageA(Platform::ActiveWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
+    PostMessageA(Platform::ActiveWindow(), WM_CLOSE, 0, 0);
+    step.AnswerOthers();
+    EXPECT_EQ(Name.text(), "");
+    EXPECT_TRUE(PeekMessageA(&message, nullptr, WM_KEYDOWN, WM_CHAR, PM_NOREMOVE));
+  }
+  for (const UINT kind :
+       {WM_KEYDOWN, WM_CHAR, WM_LBUTTONDOWN, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, WM_CLOSE}) {
+    EXPECT_FALSE(PeekMessageA(&message, nullptr, kind, kind, PM_NOREMOVE)) << kind;
+  }
+}
+
+TEST_F(LongStep, DropsWhatComesFromTheKeyboardItself) {
+  SetForegroundWindow(Platform::ActiveWindow());
+  TestMachine::Hears();  // brings the window to rest
+  {
+    const Platform::LongStep step;
+    INPUT strokes[2] = {};
+    for (INPUT& stroke : strokes) {
+      stroke.type = INPUT_KEYBOARD;
+      stroke.ki.wVk = 'X';
+    }
+    strokes[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(2, strokes, sizeof(INPUT));
+    constexpr DWORD PatienceMs = 5000;
+    const DWORD waited =
+        MsgWaitForMultipleObjectsEx(0, nullptr, PatienceMs, QS_KEY, MWMO_INPUTAVAILABLE);
+    if (waited == WAIT_TIMEOUT) GTEST_SKIP() << "the keyboard belongs to another program";
+    step.AnswerOthers();
+  }
+  EXPECT_EQ(TestMachine::Hears(), "Name, edit, Alt+N");
+}
+
+TEST_F(LongStep, DoesNotSwallowTheEndOfTheProgram) {
+  {
+    const Platform::LongStep step;
+    PostQuitMessage(7);
+    PostMessageA(GetFocus(), WM_KEYDOWN, 'A', 1);
+    step.AnswerOthers();
+  }
+  MSG message;
+  EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_NOREMOVE) &&
+               message.message == WM_KEYDOWN);
+  ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+  EXPECT_EQ(message.wParam, 7u);
+}
+
+TEST_F(LongStep, LetsAWindowBePutAside) {
+  const HWND window = Platform::ActiveWindow();
+  const Platform::LongStep step;
+  SendMessageA(window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  EXPECT_TRUE(IsIconic(window));
+  SendMessageA(window, WM_SYSCOMMAND, SC_RESTORE, 0);
+  EXPECT_FALSE(IsIconic(window));
 }
 
 TEST_F(LongStep, PaintsWhatIsToBePainted) {
   const HWND window = Platform::ActiveWindow();
   InvalidateRect(window, nullptr, FALSE);
-  Platform::AnswerMessages();
+  const Platform::LongStep step;
   EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
 }
 

@@ -11,8 +11,10 @@
 #include "tests/ui/DialogsContract.h"
 #include "tests/ui/FormsContract.h"
 #include "tests/ui/KeysContract.h"
+#include "tests/ui/LongStepContract.h"
 #include "tests/ui/MenusContract.h"
 #include "tests/ui/StageContract.h"
+#include "tests/ui/TimersContract.h"
 
 // contract-tests [--speakers=FILE]: the file is the one that E2e::Recording reads.
 int main(int argc, char** argv) {

@@ -17,7 +17,7 @@ using namespace Platform;
 
 // A tool with all kinds of controls and captions as long as those of other languages.
 struct Tool : Form {
-  Tool() : Form(FixedText("Serververwaltung")) {}
+  Tool() : Form(FixedText("Serververwaltung"), {.isResizable = true}) {}
   Label Explanation{*this,
                     {.text = FixedText("Choose the server that the game is to use. The "
                                        "change is stored at once, and holds from the next "
@@ -131,7 +131,7 @@ class WindowTest : public ContractTest {
     return count;
   }
 
-  Form main{FixedText("Main")};
+  Form main{FixedText("Main"), {.isResizable = true, .isDialog = false}};
   Tool tool;
 };
 
@@ -141,6 +141,37 @@ TEST_F(WindowTest, ToolsAreDialogsAndTheMainWindowKeepsTheFocusItself) {
   tool.Show();
   EXPECT_EQ(ClassOf(WindowOf(tool)), "#32770");
   EXPECT_EQ(StyleOf(WindowOf(tool)) & DS_SHELLFONT, DS_SHELLFONT);
+}
+
+TEST_F(WindowTest, TheFrameOfAWindowIsWhatItsOptionsSay) {
+  constexpr LONG_PTR Frames = WS_SYSMENU | WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX;
+  EXPECT_EQ(StyleOf(WindowOf(main)) & Frames, Frames);
+  tool.Show();
+  EXPECT_EQ(StyleOf(WindowOf(tool)) & Frames, Frames);
+  Form plain(FixedText("Plain"));
+  plain.Show();
+  EXPECT_EQ(StyleOf(WindowOf(plain)) & Frames, WS_SYSMENU | WS_MINIMIZEBOX);
+  Form bare(FixedText("Bare"), {.hasMinimizeBox = false});
+  bare.Show();
+  EXPECT_EQ(StyleOf(WindowOf(bare)) & Frames, WS_SYSMENU);
+}
+
+// Screen readers read the labels of real dialogs alone, and speak a name that changes only of what
+// has the focus.
+TEST_F(WindowTest, AWindowThatOnlySaysSomethingIsADialogWhoseNewTitleIsHeard) {
+  Form recording(FixedText("Recording"));
+  Label Length(recording, {.text = FixedText("Press Space to stop.")});
+  recording.Show();
+  const HWND window = WindowOf(recording);
+  EXPECT_EQ(ClassOf(window), "#32770");
+  EXPECT_EQ(GetFocus(), window);
+  ASSERT_EQ(ChildrenOf(window).size(), 1u);
+  EXPECT_TRUE(IsWindowVisible(ChildrenOf(window)[0]) && IsWindowEnabled(ChildrenOf(window)[0]));
+  ExpectNothingCut(window);
+  // The system tells readers of a new title by itself.
+  recording.SetTitle("Playing");
+  EXPECT_EQ(TextOf(window), "Playing");
+  EXPECT_EQ(GetFocus(), window);
 }
 
 TEST_F(WindowTest, EachNamedControlFollowsItsLabelAndIsATabStop) {

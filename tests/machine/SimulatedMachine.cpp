@@ -168,6 +168,11 @@ void Press(const std::string& key) {
   machine->user.Presses(key);
 }
 
+// Nothing waits here until the program looks for it: what comes while it is busy comes at once.
+void PressWhileBusy(const std::string& key) {
+  machine->user.Presses(key);
+}
+
 void Type(const std::string& text) {
   machine->user.Types(text);
 }
@@ -250,6 +255,19 @@ void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces) {
   machine->user.ChoosesFile(path);
   if (!replaces) return;
   *replaces ? machine->user.AnswersYes() : machine->user.AnswersNo();
+}
+
+void WaitUntil(const std::function<bool()>& condition) {
+  constexpr int OftenMs = 10;
+  for (int times = 0; times < 1000 && !condition(); ++times) machine->user.Waits(OftenMs);
+}
+
+void LetTimeGoBy(int milliseconds) {
+  machine->user.Waits(milliseconds);
+}
+
+void ChooseInMissingFolder(const std::string& path) {
+  machine->user.ChoosesFile(path);
 }
 
 void LeaveFileDialog() {

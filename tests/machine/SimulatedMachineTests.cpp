@@ -8,5 +8,7 @@
 #include "tests/ui/DialogsContract.h"
 #include "tests/ui/FormsContract.h"
 #include "tests/ui/KeysContract.h"
+#include "tests/ui/LongStepContract.h"
 #include "tests/ui/MenusContract.h"
 #include "tests/ui/StageContract.h"
+#include "tests/ui/TimersContract.h"

@@ -135,6 +135,8 @@ void Press(const std::string& key);
 // of the key; Press does it the other way round.
 void HoldDown(const std::string& key);
 void LetGoOfKeys();
+// Presses a key while the program is busy: it gets the key only when it looks for one.
+void PressWhileBusy(const std::string& key);
 // Types the characters of a text.
 void Type(const std::string& text);
 // The close box of the window.
@@ -169,6 +171,13 @@ std::string Menus();
 // Chooses a menu item by the captions on the way to it, "&" included.
 void ChooseMenu(const std::vector<std::string>& captions);
 
+// --- Time ---
+
+// Lets the program handle what comes until the condition holds, or until much time has gone by.
+void WaitUntil(const std::function<bool()>& condition);
+// Lets the program handle what comes for so long: to see that nothing comes.
+void LetTimeGoBy(int milliseconds);
+
 // --- Boxes and dialogs ---
 
 // What the user does when the next modal window comes: a message box, a window shown by ShowModal,
@@ -189,6 +198,9 @@ MessageBoxSeen MessageBoxOnScreen();
 //             if there is an answer, and must not come otherwise.
 void ChooseInFileDialog(const std::string& path, std::optional<bool> replaces = std::nullopt);
 void LeaveFileDialog();
+// In an open file dialog: types a path in a folder that is not there and presses Enter. The dialog
+// says so in a box of its own, which is answered with OK, and stays.
+void ChooseInMissingFolder(const std::string& path);
 
 }  // namespace TestMachine
 

@@ -139,6 +139,11 @@ TEST(CheckTrackWithoutTheGame, NothingIsAskedAndTheCauseIsTold) {
   CheckedFile::ExpectTheMissingGameToBeTold({"Track", "Check .trk file"});
 }
 
+TEST(CheckTrackLongStep, NothingBeginsMeanwhile) {
+  CheckedFile::ExpectNothingToBeginMeanwhile({"Track", "Check .trk file"}, Path,
+                                             "0\r\n0\r\n5000\r\n-1\r\n0\r\n");
+}
+
 TEST(CheckTrackSweep, AnyFailureEndsInOneBox) {
   CheckedFile::ExpectAnyFailureToEndInOneBox({"Track", "Check .trk file"}, Path,
                                              "0\r\n0\r\n5000\r\n-1\r\n0\r\n");

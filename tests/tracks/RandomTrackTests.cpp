@@ -54,6 +54,21 @@ TEST_F(RandomTrackStory, TheDialogueRunsInItsOrder) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
+TEST_F(RandomTrackStory, WhatTheUserTriesWhileItIsWrittenIsInVain) {
+  bool isTried = false;
+  user.DuringLongStep([&] {
+    user.Presses("Ctrl+N");
+    user.ChoosesMenu({"Track", "New"});
+    user.ClosesWindow();
+    isTried = true;
+  });
+  MakesTrackOf("hill.trk", "9000");
+  EXPECT_TRUE(isTried);
+  EXPECT_EQ(user.LastBox().title, "Thank you!");
+  EXPECT_EQ(user.SeesWindow(), PackTitle);
+  EXPECT_EQ(LinesOfTrack("hill.trk").size(), 9000 * 3 + 2u);
+}
+
 TEST_F(RandomTrackStory, ThreePartsMakeElevenLines) {
   MakesTrackOf("hill.trk", "3");
   const std::string text = machine.files.Text(Tracks + "\\hill.trk");

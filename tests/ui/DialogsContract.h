@@ -329,6 +329,17 @@ TEST_F(FileDialogContract, TheDialogStaysIfAFileShallNotBeReplaced) {
   EXPECT_EQ(save.Show(), "");
 }
 
+TEST_F(FileDialogContract, AFolderThatIsNotThereIsToldAndTheDialogStays) {
+  for (Platform::FileDialog* each : {&open, &save}) {
+    TestMachine::WhenModalWindowOpens([&] {
+      TestMachine::ChooseInMissingFolder(folder + "\\nowhere\\hill.trk");
+      EXPECT_EQ(TestMachine::ActiveWindow(), "Track file");
+      TestMachine::ChooseInFileDialog(folder + "\\lake.trk");
+    });
+    EXPECT_EQ(each->Show(), folder + "\\lake.trk");
+  }
+}
+
 TEST_F(FileDialogContract, OpeningAFileAsksNothing) {
   TestMachine::PutFile(folder + "\\hill.trk", "1");
   EXPECT_EQ(Typing("hill.trk", open), folder + "\\hill.trk");

@@ -97,11 +97,38 @@ TEST_F(FormsContract, AFocusedControlThatIsDisabledHandsTheFocusOn) {
 }
 
 TEST_F(FormsContract, AWindowWithoutControlsHasTheFocusItself) {
-  Platform::Form main(FixedText("Utility Pack"));
+  Platform::Form main(FixedText("Utility Pack"), {.isDialog = false});
   std::vector<int> keys;
   main.OnKeyDown = [&](Platform::KeyEvent& key) { keys.push_back(key.code); };
   Platform::StartProgram(main);
   EXPECT_EQ(TestMachine::Hears(), "Utility Pack, window");
   TestMachine::Press("Ctrl+P");
   EXPECT_THAT(keys, testing::Contains('P'));
+}
+
+TEST_F(FormsContract, AWindowThatOnlySaysSomethingHasTheFocusItselfAndItsNewTitleIsHeard) {
+  struct Recording final : Platform::Form {
+    Recording() : Form(FixedText("Recording...")) {}
+    Platform::Label Length{*this, {.text = FixedText("Press Space to stop.")}};
+  } recording;
+  std::vector<int> keys;
+  recording.OnKeyDown = [&](Platform::KeyEvent& key) {
+    keys.push_back(key.code);
+    key.isHandled = true;
+  };
+  OpenWindow();
+  recording.Show();
+  EXPECT_EQ(Visible(), Lines{"Recording..."});
+  EXPECT_EQ(TestMachine::Hears(), "Recording..., window");
+  recording.SetTitle("Playing...");
+  EXPECT_EQ(TestMachine::Hears(), "Playing..., window");
+  for (const char* key : {"Space", "Enter", "Tab", "Escape"}) TestMachine::Press(key);
+  EXPECT_EQ(keys, (std::vector<int>{Platform::Key::Space, Platform::Key::Enter, Platform::Key::Tab,
+                                    Platform::Key::Escape}));
+  EXPECT_EQ(TestMachine::Hears(), "Playing..., window");
+  recording.OnKeyDown = nullptr;
+  for (const char* key : {"Space", "Enter", "Tab", "Down", "Escape"}) TestMachine::Press(key);
+  EXPECT_EQ(TestMachine::Hears(), "Playing..., window") << "there is nowhere to go";
+  TestMachine::Press("Alt+F4");
+  EXPECT_EQ(TestMachine::Hears(), "Servers, list, hill.example, 1 of 3, Alt+S");
 }

@@ -70,6 +70,7 @@ TEST_F(FormsModel, AFailureThatCannotBeToldAsUsualIsToldInEnglish) {
   machine.screen.boxesWithoutMemory = 1;
   Dispatch([] { throw RuntimeError(RuntimeError::DiskFull, "C:\\hill.trk"); });
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "The disk is full.", "Error"));
+  EXPECT_EQ(user.LastBox().owner, "Main") << "the user cannot leave it unanswered";
 }
 
 TEST_F(FormsModel, AMainWindowThatCannotComeBackIsTold) {

@@ -149,6 +149,41 @@ TEST_F(KeysContract, AKeyThatTheWindowUsedGoesNoFurther) {
   EXPECT_EQ(TestMachine::Hears(), "Servers, list, hill.example, 1 of 3, Alt+S");
 }
 
+TEST_F(KeysContract, AKeyThatShowsAnotherWindowMeansNothingToEither) {
+  ContractTool tool("Tool");
+  int submits = 0;
+  tool.Submit.OnClick = [&] { ++submits; };
+  window.OnKeyDown = [&](Platform::KeyEvent&) { tool.Show(); };
+  OpenWindow();
+  for (const char* key : {"Enter", "Escape", "Down", "Alt+D"}) {
+    TestMachine::Press(key);
+    EXPECT_EQ(Visible(), Lines{"Tool"}) << key;
+    EXPECT_EQ(TestMachine::Hears(), "Name, edit, Alt+N") << key;
+    tool.Unload();
+  }
+  EXPECT_EQ(Events(), Lines{});
+  EXPECT_EQ(submits, 0);
+  EXPECT_EQ(window.Servers.selected(), 0);
+}
+
+TEST_F(KeysContract, ArrowKeysLeadRoundAmongNeighbouringButtons) {
+  OpenWindow();
+  window.Delete.Focus();
+  const std::vector<std::pair<const char*, const char*>> steps = {
+      {"Right", "OK, button"},  {"Down", "Cancel, button"}, {"Down", "Delete, button, Alt+D"},
+      {"Up", "Cancel, button"}, {"Left", "OK, button"},     {"Left", "Delete, button, Alt+D"},
+  };
+  for (const auto& [key, heard] : steps) {
+    TestMachine::Press(key);
+    EXPECT_EQ(TestMachine::Hears(), heard) << key;
+  }
+  window.Submit.SetEnabled(false);
+  TestMachine::Press("Right");
+  EXPECT_EQ(TestMachine::Hears(), "Cancel, button");
+  TestMachine::Press("Enter");
+  EXPECT_EQ(Events(), Lines{"cancel"});
+}
+
 TEST_F(KeysContract, KeysThatEditStayWithATextBox) {
   std::vector<int> keys;
   window.OnKeyDown = [&](Platform::KeyEvent& key) {

@@ -136,6 +136,11 @@ TEST(CheckVehicleWithoutTheGame, NothingIsAskedAndTheCauseIsTold) {
   CheckedFile::ExpectTheMissingGameToBeTold({"Vehicle", "Check .vhc file"});
 }
 
+TEST(CheckVehicleLongStep, NothingBeginsMeanwhile) {
+  CheckedFile::ExpectNothingToBeginMeanwhile({"Vehicle", "Check .vhc file"}, Path,
+                                             "skidrun=1\r\nhornsound=car1\r\n");
+}
+
 TEST(CheckVehicleSweep, AnyFailureEndsInOneBox) {
   CheckedFile::ExpectAnyFailureToEndInOneBox({"Vehicle", "Check .vhc file"}, Path,
                                              "skidrun=1\r\nhornsound=horn.wav\r\n",

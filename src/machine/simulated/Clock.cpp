@@ -14,6 +14,10 @@ void Clock::Pass(double seconds) {
   if (seconds_ >= SecondsPerDay) seconds_ = std::fmod(seconds_, SecondsPerDay);
 }
 
+int64_t Clock::milliseconds() const {
+  return std::llround(steady_ * 1000);
+}
+
 double Clock::Look() {
   const double now = seconds_;
   Pass(tick_);

@@ -1,5 +1,8 @@
-// The clock of the simulated machine. It stands still until told otherwise.
+// The clock of the simulated machine. It stands still until told otherwise, or until the user
+// waits.
 #pragma once
+
+#include <cstdint>
 
 namespace Simulated {
 
@@ -10,8 +13,10 @@ class Clock {
   // Moves the clock on by so much each time the program has looked at it.
   void TickPerCall(double seconds) { tick_ = seconds; }
 
-  // Lets time go by.
+  // Lets time go by. Timers tick only if the user waits: see User::Waits.
   void Pass(double seconds);
+  // How much time has gone by since the machine was made.
+  int64_t milliseconds() const;
 
   // For the service: the time of day, after which the clock ticks; and the time that only goes on.
   double Look();

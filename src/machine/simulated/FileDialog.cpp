@@ -5,6 +5,7 @@
 #include "platform/Paths.h"
 #include "ui/Forms.h"
 #include "ui/MsgBox.h"
+#include "ui/Stage.h"
 
 namespace Platform {
 
@@ -22,6 +23,15 @@ std::string Completed(const FileDialog& dialog, std::string path) {
   return path;
 }
 
+// The dialog's own words on a folder that is not there.
+bool IsFolderThere(const std::string& path) {
+  const auto* folder = Simulated::TheMachine().files.Find(FolderOf(path));
+  if (folder && folder->isFolder) return true;
+  MsgBox(path + "\r\nPath does not exist.\r\nCheck the path and try again.", "Choose a file",
+         Icon::Critical);
+  return false;
+}
+
 // The dialog's own question, if saving under the path would replace a file.
 bool MayBeChosen(const FileDialog& dialog, const std::string& path) {
   if (dialog.kind() == FileDialog::Kind::Open || !Simulated::TheMachine().files.Exists(path)) {
@@ -36,6 +46,7 @@ bool MayBeChosen(const FileDialog& dialog, const std::string& path) {
 std::string FileDialog::Show() const {
   Simulated::Machine& machine = Simulated::TheMachine();
   Simulated::Script& script = machine.user.script();
+  const BoxOverStage box;
   if (machine.faults.Strikes("FileDialog " + title)) throw RuntimeError(RuntimeError::DeviceError);
   script.fileDialogs.push_back({kind_, title, fileType, pattern, defaultExtension, initialFolder});
   if (title.empty()) Simulated::Complain("a file dialog without a title");
@@ -55,8 +66,8 @@ std::string FileDialog::Show() const {
     script.files.pop_front();
     if (typed.empty()) return "";
     std::string path = Completed(*this, typed);
-    if (!MayBeChosen(*this, path)) continue;
     CheckName(path);
+    if (!IsFolderThere(path) || !MayBeChosen(*this, path)) continue;
     return path;
   }
 }

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "base/RuntimeError.h"
 #include "machine/simulated/Machine.h"
 #include "machine/simulated/Window.h"
 
@@ -44,9 +45,15 @@ std::function<void()> NextModalAction(const Form& form) {
   return [] {};
 }
 
+// A window, a menu or a timer for which the system has no room.
+void FailIfStruck(const std::string& call) {
+  if (Simulated::TheMachine().faults.Strikes(call)) throw RuntimeError(RuntimeError::DeviceError);
+}
+
 }  // namespace
 
 FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {
+  FailIfStruck("MakeWindow " + form.title());
   for (NativeControl& control : native_->controls) {
     if (control.kind() == Control::Kind::ListBox) Fill(control);
   }
@@ -58,6 +65,7 @@ FormView::~FormView() {
 }
 
 void FormView::Show(FormView*) {
+  FailIfStruck("ShowWindow " + native_->form.title());
   if (Simulated::TheMachine().screen.refusesWindows) throw std::bad_alloc();
   native_->isShown = true;
   native_->FollowFocus();
@@ -79,7 +87,11 @@ void FormView::RunModal(FormView* owner) {
   Show(owner);
   const auto action = NextModalAction(native_->form);
   native_->isModalLoopRunning = true;
+  const Native* const window = native_.get();
   action();
+  // The window may be gone, and with it this object.
+  const auto& windows = Simulated::TheMachine().screen.windows;
+  if (std::count(windows.begin(), windows.end(), window) == 0) return;
   if (native_->isModalLoopRunning) {
     Simulated::Complain("the window stayed open: " + native_->form.title());
   }
@@ -96,6 +108,7 @@ void FormView::TitleChanged() {
 }
 
 void FormView::MenuChanged() {
+  FailIfStruck("MakeMenu " + native_->form.title());
   native_->ShowMenu();
 }
 
@@ -158,6 +171,15 @@ void FormView::SelectionChanged(ListBox& list) {
 
 int FormView::SelectedRow(const ListBox& list) const {
   return native_->Of(list).selected;
+}
+
+void FormView::StartTimer(Timer& timer) {
+  FailIfStruck("StartTimer " + native_->form.title());
+  native_->timers[&timer] = Simulated::TheMachine().clock.milliseconds() + timer.milliseconds();
+}
+
+void FormView::StopTimer(Timer& timer) {
+  native_->timers.erase(&timer);
 }
 
 // Events come from the test itself; in a program that runs by itself, from the steps that the user

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <map>
 
 #include "machine/simulated/Machine.h"
 #include "machine/simulated/OpenBox.h"
 #include "machine/simulated/Window.h"
+#include "platform/LongStep.h"
 
 namespace Simulated {
 
@@ -103,6 +105,24 @@ void PressTab(Window& window, bool isBackwards) {
   window.FocusByKey(next == stops.end() ? *stops.front() : **next);
 }
 
+// The arrow keys lead round among the buttons that stand beside each other.
+void MoveAmongButtons(Window& window, bool isBackwards) {
+  const auto isNoButton = [](const NativeControl& control) {
+    return control.kind() != Control::Kind::Button;
+  };
+  auto& controls = window.controls;
+  const auto here = controls.begin() + (window.focus - controls.data());
+  const auto first = std::find_if(std::reverse_iterator(here), controls.rend(), isNoButton).base();
+  const auto last = std::find_if(here, controls.end(), isNoButton);
+  std::vector<NativeControl*> stops;
+  for (auto button = first; button != last; ++button) {
+    if (button->TakesFocus()) stops.push_back(&*button);
+  }
+  if (isBackwards) std::reverse(stops.begin(), stops.end());
+  const auto next = std::find(stops.begin(), stops.end(), window.focus) + 1;
+  window.FocusByKey(next == stops.end() ? *stops.front() : **next);
+}
+
 void PressEnter(const Window& window) {
   if (window.focus && window.focus->kind() == Control::Kind::Button) {
     window.focus->button().Click();
@@ -174,8 +194,8 @@ void Keyboard::Send(const KeyEvent& key, char character) {
   const Window* window = WindowInUse();
   if (!window) return Complain("there is no window for a key");
   if (menu_.IsOpenIn(*window)) return menu_.Press(key);
-  Form& form = window->form;
-  if (form.KeyDown(key) || ActiveForm() != &form) return;
+  // A key that comes in a long step is dropped before any control sees it.
+  if (Platform::LongStep::IsRunning() || window->form.KeyDown(key)) return;
   if (Window* here = WindowInUse()) PressInDialog(*here, key, character);
 }
 
@@ -201,6 +221,9 @@ void Keyboard::PressInDialog(Window& window, const KeyEvent& key, char character
     case Control::Kind::ListBox: return PressInList(focus, key, character);
     case Control::Kind::Button:
       if (key.code == Key::Space) focus.button().Click();
+      if (key.code >= Key::Left && key.code <= Key::Down) {
+        MoveAmongButtons(window, key.code == Key::Left || key.code == Key::Up);
+      }
       return;
     case Control::Kind::Label: return;
   }

@@ -4,8 +4,12 @@
 
 namespace Platform {
 
-void AnswerMessages() {
+void AnswerMessages() noexcept {
   ++Simulated::TheMachine().screen.answers;
+  Simulated::TheMachine().user.ActsDuringLongStep();
 }
+
+// Keys and clicks are never kept here: those that come in a long step are gone at once.
+void DropInput() noexcept {}
 
 }  // namespace Platform

@@ -11,7 +11,7 @@ class OpenBox;
 struct Window;
 
 struct Screen {
-  std::vector<const Window*> windows;     // loaded, on the screen or not
+  std::vector<Window*> windows;           // loaded, on the screen or not
   std::vector<OpenBox*> boxes;            // the one in use last
   std::vector<std::string> dialogs;       // titles of open file dialogs, the one in use last
   int refusedBoxes = 0;                   // so many of the next boxes cannot be shown

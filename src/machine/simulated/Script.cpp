@@ -41,6 +41,7 @@ void Script::ComplainAboutLeftovers() const {
   for (const ModalStep& step : modals) {
     Complain("no window opened" + (step.title.empty() ? "" : " with the title " + step.title));
   }
+  if (!longSteps.empty()) Complain("no long step came in which the user could try something");
   if (!idleSteps.empty()) Complain("the program ended before the user did everything");
 }
 

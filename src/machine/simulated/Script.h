@@ -50,6 +50,7 @@ struct Script {
   std::deque<std::string> files;  // empty for Cancel
   std::deque<ModalStep> modals;
   std::deque<std::function<void()>> idleSteps;
+  std::deque<std::function<void()>> longSteps;  // what is tried while a long step runs
 
   std::vector<Box> boxes;
   std::vector<FileDialogSeen> fileDialogs;

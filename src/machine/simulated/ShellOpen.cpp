@@ -1,6 +1,7 @@
 #include "platform/ShellOpen.h"
 
 #include "machine/simulated/Machine.h"
+#include "platform/LongStep.h"
 #include "ui/MsgBox.h"
 
 namespace Platform {
@@ -17,6 +18,7 @@ bool CanBeOpened(const std::string& target) {
 }  // namespace
 
 void ShellOpen(const std::string& target) {
+  const LongStep step;
   if (CanBeOpened(target)) return Simulated::TheMachine().shell.Open(target);
   MsgBox("Windows cannot find '" + target + "'.", target, Icon::Critical);
 }

@@ -7,6 +7,7 @@
 #include "machine/simulated/Machine.h"
 #include "machine/simulated/OpenBox.h"
 #include "machine/simulated/Window.h"
+#include "platform/LongStep.h"
 
 namespace Simulated {
 
@@ -62,6 +63,27 @@ void ClickRow(Window& window, NativeControl& list, int row) {
   list.listBox().Selected(row);
 }
 
+double Seconds(int64_t milliseconds) {
+  return static_cast<double>(milliseconds) / 1000;
+}
+
+// Moves the clock on to the timer that ticks next, if one does before the end. Null if none does.
+Platform::Timer* NextTimer(int64_t end) {
+  Clock& clock = TheMachine().clock;
+  std::pair<Platform::Timer* const, int64_t>* next = nullptr;
+  for (Window* window : TheMachine().screen.windows) {
+    for (auto& timer : window->timers) {
+      const bool isEarlier = timer.second <= end && (!next || timer.second < next->second);
+      if (isEarlier && timer.first->MayTick()) next = &timer;
+    }
+  }
+  if (!next) return nullptr;
+  // A tick that could not be heard comes late.
+  if (next->second > clock.milliseconds()) clock.Pass(Seconds(next->second - clock.milliseconds()));
+  next->second = clock.milliseconds() + next->first->milliseconds();
+  return next->first;
+}
+
 template <class Seen>
 Seen LastOf(const std::vector<Seen>& all, const char* what) {
   if (!all.empty()) return all.back();
@@ -94,15 +116,30 @@ void User::WhenProgramWaits(std::function<void()> action) {
   script_.idleSteps.push_back(std::move(action));
 }
 
+void User::DuringLongStep(std::function<void()> action) {
+  script_.longSteps.push_back(std::move(action));
+}
+
+void User::ActsDuringLongStep() {
+  if (script_.longSteps.empty()) return;
+  const auto action = std::move(script_.longSteps.front());
+  script_.longSteps.pop_front();
+  action();
+}
+
+void User::Waits(int milliseconds) {
+  Clock& clock = TheMachine().clock;
+  const int64_t end = clock.milliseconds() + milliseconds;
+  while (Platform::Timer* timer = NextTimer(end)) timer->Tick();
+  if (clock.milliseconds() < end) clock.Pass(Seconds(end - clock.milliseconds()));
+}
+
 void User::ClosesWindow() {
   if (const Window* window = WindowFor("close")) window->form.CloseRequested();
 }
 
 void User::ClosesFromTaskbar(const std::string& title) {
-  const Screen& screen = TheMachine().screen;
-  // Boxes and dialogs keep all windows from being used.
-  if (!screen.boxes.empty() || !screen.dialogs.empty()) return;
-  for (const Window* window : screen.windows) {
+  for (const Window* window : TheMachine().screen.windows) {
     if (window->title == title) return window->form.CloseRequested();
   }
   Complain("there is no window to close: " + title);
@@ -127,7 +164,7 @@ void User::ChoosesMenu(const std::vector<std::string>& captions) {
 
 void User::Clicks(const std::string& text) {
   Window* window = WindowFor("click in");
-  if (!window) return;
+  if (!window || Platform::LongStep::IsRunning()) return;  // as a key in a long step
   if (const auto [list, row] = FindRow(*window, text); list) return ClickRow(*window, *list, row);
   NativeControl* button = FindButton(*window, text);
   if (!button) return Complain("there is nothing to click: " + text);
@@ -137,7 +174,7 @@ void User::Clicks(const std::string& text) {
 
 void User::DoubleClicks(const std::string& row) {
   Window* window = WindowFor("click in");
-  if (!window) return;
+  if (!window || Platform::LongStep::IsRunning()) return;  // as a key in a long step
   const auto [list, index] = FindRow(*window, row);
   if (!list) return Complain("there is no row " + row);
   const Form& form = window->form;

@@ -41,6 +41,10 @@ class User {
   // Once the program waits for events in RunMessageLoop.
   void WhenProgramWaits(std::function<void()> action);
 
+  // While the next long step runs, or the one that runs now: what is done then must begin nothing,
+  // so that whatever the user tries is tried in vain.
+  void DuringLongStep(std::function<void()> action);
+
   // --- What the user does now, in the window in use. ---
 
   // Presses a key, such as "Enter", "Alt+S", "Ctrl+Shift+N", "Down".
@@ -56,6 +60,8 @@ class User {
   // Clicks a button by its caption without "&", or a row of a list.
   void Clicks(const std::string& text);
   void DoubleClicks(const std::string& row);
+  // Does nothing for a while: the clock goes on, and timers tick.
+  void Waits(int milliseconds);
 
   // --- What the user hears and sees. ---
 
@@ -86,6 +92,8 @@ class User {
   ModalSeen LastModalWindow() const;
 
   // --- For the machine. ---
+  // Does the next of what was to be done in a long step. For the services that wait within one too.
+  void ActsDuringLongStep();
   Script& script() { return script_; }
   void ComplainAboutUnusedSteps() const { script_.ComplainAboutLeftovers(); }
 

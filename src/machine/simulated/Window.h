@@ -4,12 +4,15 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "ui/FormView.h"
 #include "ui/Forms.h"
+#include "ui/Timer.h"
 
 namespace Simulated {
 
@@ -72,6 +75,7 @@ struct Window {
   bool isFocusMoved = true;  // the form has moved the focus, and the window has not followed yet
   bool isShown = false;
   bool isModalLoopRunning = false;
+  std::map<Platform::Timer*, int64_t> timers;  // those that run, and when they tick next
 
   NativeControl& Of(const Platform::Control& control);
   void ShowMenu();

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "base/RuntimeError.h"
+#include "machine/win32/UserInput.h"
 #include "ui/Forms.h"
 
 namespace Platform {
@@ -76,6 +77,7 @@ WNDPROC& SystemProc(Control::Kind kind) {
 LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   Control& control = *reinterpret_cast<Control*>(GetWindowLongPtrA(window, GWLP_USERDATA));
   const WNDPROC proc = SystemProc(control.kind());
+  if (IsHeldBack(message, wParam)) return 0;
   switch (message) {
     case WM_SETFOCUS: {
       const LRESULT result = CallWindowProcA(proc, window, message, wParam, lParam);

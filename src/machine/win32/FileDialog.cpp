@@ -12,6 +12,7 @@
 #include "machine/win32/CodePage.h"
 #include "machine/win32/FormWindow.h"
 #include "platform/Paths.h"
+#include "ui/Stage.h"
 
 namespace Platform {
 
@@ -101,6 +102,7 @@ std::optional<std::string> Ask(const FileDialog& dialog, const std::string& fold
 }  // namespace
 
 std::string FileDialog::Show() const {
+  const BoxOverStage box;
   auto chosen = Ask(*this, initialFolder);
   // A folder that the system cannot show, such as one that may not be read, is no reason to go
   // without the dialog.

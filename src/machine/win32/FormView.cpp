@@ -67,4 +67,11 @@ int FormView::SelectedRow(const ListBox& list) const {
   return native_->Of(list).SelectedRow();
 }
 
+void FormView::StartTimer(Timer& timer) {
+  native_->StartTimer(timer);
+}
+void FormView::StopTimer(Timer& timer) {
+  native_->StopTimer(timer);
+}
+
 }  // namespace Platform

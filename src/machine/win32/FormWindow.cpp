@@ -8,8 +8,8 @@
 
 #include "base/RuntimeError.h"
 #include "machine/win32/DialogTemplate.h"
-#include "machine/win32/LongStep.h"
 #include "machine/win32/MessageLoop.h"
+#include "machine/win32/UserInput.h"
 #include "ui/Forms.h"
 
 namespace Platform {
@@ -19,6 +19,7 @@ namespace {
 constexpr char WindowClass[] = "SK2PackWindow";
 constexpr WORD IconId = 1;
 constexpr WORD FirstControlId = 100;
+constexpr UINT SoonMs = 20;  // until a timer that may not tick now is asked again
 
 std::map<HWND, FormView::Native*>& Windows() {
   static std::map<HWND, FormView::Native*> windows;
@@ -48,12 +49,11 @@ class DisabledWindow {
   bool wasEnabled_;
 };
 
-bool HasGrowing(const Form& form) {
-  return std::any_of(form.controls().begin(), form.controls().end(), [](const Control* control) {
-    return control->kind() == Control::Kind::ListBox ||
-           (control->kind() == Control::Kind::TextBox &&
-            static_cast<const TextBox*>(control)->IsMultiline());
-  });
+DWORD StyleOf(const Frame& frame) {
+  DWORD style = WS_CAPTION | WS_SYSMENU;
+  if (frame.hasMinimizeBox) style |= WS_MINIMIZEBOX;
+  if (frame.isResizable) style |= WS_THICKFRAME | WS_MAXIMIZEBOX;
+  return style;
 }
 
 WORD IdOf(const Control& control, size_t index) {
@@ -72,8 +72,8 @@ FormView::Native* FormView::Native::Find(HWND window) {
   return found == Windows().end() ? nullptr : found->second;
 }
 
-FormView::Native::Native(Form& form) : form_(form), isDialog_(!form.controls().empty()) {
-  if (isDialog_) {
+FormView::Native::Native(Form& form) : form_(form) {
+  if (form.frame().isDialog) {
     MakeDialog();
   } else {
     MakeWindow();
@@ -105,9 +105,7 @@ void FormView::Native::MakeDialog() {
   // Without it, controls may look as they did before there were themes.
   const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES};
   InitCommonControlsEx(&controls);
-  DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
-  if (HasGrowing(form_)) style |= WS_THICKFRAME | WS_MAXIMIZEBOX;
-  const DialogTemplate dialog(style, WS_EX_APPWINDOW);
+  const DialogTemplate dialog(WS_POPUP | WS_CLIPCHILDREN | StyleOf(form_.frame()), WS_EX_APPWINDOW);
   window_ =
       CreateDialogIndirectParamA(GetModuleHandleA(nullptr), dialog.get(), nullptr, DialogProc, 0);
   if (window_) Display::KeepLayoutOurs(window_);
@@ -125,7 +123,7 @@ void FormView::Native::MakeWindow() {
     return RegisterClassExA(&description);
   }();
   if (!registered) return;
-  window_ = CreateWindowExA(WS_EX_APPWINDOW, WindowClass, "", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT,
+  window_ = CreateWindowExA(WS_EX_APPWINDOW, WindowClass, "", StyleOf(form_.frame()), CW_USEDEFAULT,
                             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
                             GetModuleHandleA(nullptr), nullptr);
 }
@@ -150,6 +148,10 @@ void FormView::Native::MakeControls() {
 ControlWindow& FormView::Native::Of(const Control& control) {
   return *std::find_if(controls_.begin(), controls_.end(),
                        [&](const ControlWindow& child) { return &child.control() == &control; });
+}
+
+bool FormView::Native::HasDialogKeys() const {
+  return form_.focus() != nullptr;
 }
 
 void FormView::Native::Show(HWND over) {
@@ -183,11 +185,6 @@ void FormView::Native::RunModal(HWND owner) {
   // The owner takes input again before the window goes: otherwise another program would be
   // activated.
   if (Find(window)) Hide();
-}
-
-bool FormView::Native::TakesInput() const {
-  // A box disables the window under it alone, not those that are hidden.
-  return !IsAnsweringMessages() && IsWindowEnabled(window_) && IsWindowEnabled(ActiveWindow());
 }
 
 void FormView::Native::EndModal() {
@@ -230,6 +227,33 @@ void FormView::Native::ShowText(TextBox& box) {
   isWritingText_ = false;
 }
 
+void FormView::Native::StartTimer(Timer& timer) {
+  // Each start has an id of its own: a tick that is on its way when the timer is stopped, and that
+  // the system does not take back, belongs to none that runs.
+  const UINT_PTR id = ++lastTimerId_;
+  timers_[id] = &timer;
+  if (SetTimer(window_, id, static_cast<UINT>(timer.milliseconds()), nullptr)) return;
+  timers_.erase(id);
+  throw RuntimeError(RuntimeError::DeviceError);
+}
+
+void FormView::Native::StopTimer(Timer& timer) {
+  const auto runs = [&](const auto& each) { return each.second == &timer; };
+  const auto found = std::find_if(timers_.begin(), timers_.end(), runs);
+  if (found == timers_.end()) return;
+  KillTimer(window_, found->first);
+  timers_.erase(found);
+}
+
+void FormView::Native::TimeIsOver(UINT_PTR timerId) {
+  const auto found = timers_.find(timerId);
+  if (found == timers_.end()) return;
+  Timer& timer = *found->second;
+  const bool mayTick = timer.MayTick();
+  SetTimer(window_, timerId, mayTick ? static_cast<UINT>(timer.milliseconds()) : SoonMs, nullptr);
+  if (mayTick) timer.Tick();
+}
+
 bool FormView::Native::KeyDown(const MSG& message) {
   const auto isDown = [](int key) { return GetKeyState(key) < 0; };
   KeyEvent key{static_cast<int>(message.wParam), Shift::None};
@@ -270,21 +294,21 @@ std::optional<LRESULT> FormView::Native::HandleSafely(UINT message, WPARAM wPara
 }
 
 std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (IsHeldBack(message, wParam)) return 0;
   switch (message) {
     case WM_COMMAND: Command(wParam, lParam); return 0;
+    case WM_TIMER: TimeIsOver(wParam); return 0;
     case ControlWindow::RowsWait:
       for (ControlWindow& child : controls_) child.DrawRows();
       return 0;
-    case WM_CLOSE:
-      if (TakesInput()) form_.CloseRequested();
-      return 0;
+    case WM_CLOSE: form_.CloseRequested(); return 0;
     case WM_ACTIVATE:
       if (LOWORD(wParam) == WA_INACTIVE || HIWORD(wParam)) return std::nullopt;
       RestoreFocus();
       return 0;
     case WM_SETFOCUS:
-      if (!form_.focus()) return std::nullopt;
-      RestoreFocus();
+      // The system would look for a control to hand the focus on to.
+      if (form_.focus()) RestoreFocus();
       return 0;
     case WM_SIZE:
       if (wParam == SIZE_MINIMIZED || !isLaidOut_) return std::nullopt;
@@ -321,7 +345,7 @@ void FormView::Native::Command(WPARAM wParam, LPARAM lParam) {
   if (!sender) {
     // Of the menu; or Enter or Escape in a dialog that has no button for it.
     MenuItem* const item = menuBar_->ItemOf(LOWORD(wParam));
-    if (item && TakesInput()) item->Choose();
+    if (item) item->Choose();
     return;
   }
   const auto child = std::find_if(controls_.begin(), controls_.end(),
@@ -331,12 +355,12 @@ void FormView::Native::Command(WPARAM wParam, LPARAM lParam) {
   switch (child->control().kind()) {
     case Control::Kind::Label: return;
     case Control::Kind::Button:
-      if (event == BN_CLICKED && TakesInput()) static_cast<Button&>(child->control()).Click();
+      if (event == BN_CLICKED) static_cast<Button&>(child->control()).Click();
       return;
     case Control::Kind::ListBox: {
       auto& list = static_cast<ListBox&>(child->control());
       if (event == LBN_SELCHANGE) list.Selected(child->SelectedRow());
-      if (event == LBN_DBLCLK && TakesInput()) list.DoubleClicked();
+      if (event == LBN_DBLCLK) list.DoubleClicked();
       return;
     }
     case Control::Kind::TextBox:

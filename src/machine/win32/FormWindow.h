@@ -1,11 +1,12 @@
 // The native window of a form.
 //
-// Windows with controls are real dialogs; a window without any is of a class of our own that keeps
-// the focus itself. Whatever the user does may end with the window gone: after a call into the
-// form, and after handling messages, nothing of this object is touched again unless it is found
-// anew by its window's handle.
+// Windows are real dialogs, or, for the main window, of a class of our own; either has the focus
+// itself while no control of it takes it. Whatever the user does may end with the window gone:
+// after a call into the form, and after handling messages, nothing of this object is touched again
+// unless it is found anew by its window's handle.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,6 +17,7 @@
 #include "machine/win32/MenuBar.h"
 #include "machine/win32/System.h"
 #include "ui/FormView.h"
+#include "ui/Timer.h"
 
 namespace Platform {
 
@@ -30,7 +32,9 @@ struct FormView::Native {
   static Native* Find(HWND window);
 
   HWND window() const { return window_; }
-  bool IsDialog() const { return isDialog_; }
+  // Tab, arrows, Enter and Escape are what they are in dialogs. In a window that has the focus
+  // itself they have nowhere to lead; the system would hand the focus to a label.
+  bool HasDialogKeys() const;
   ControlWindow& Of(const Control& control);
   const Display::Font& font() const { return *font_; }
 
@@ -39,14 +43,15 @@ struct FormView::Native {
   void Hide();
   void RunModal(HWND owner);
   void EndModal();
-  // False while a box, a dialog or a modal window waits for the user, and within a long step.
-  bool TakesInput() const;
   void ShowTitle();
   void ShowMenu();
   void MoveFocus();
   void ShowText(TextBox& box);
   // Lays the controls out again after one of them has changed. The window grows if it has to.
   void LayOutAgain();
+
+  void StartTimer(Timer& timer);
+  void StopTimer(Timer& timer);
 
   // A key went down in the window. True if the form used it.
   bool KeyDown(const MSG& message);
@@ -65,6 +70,7 @@ struct FormView::Native {
   // The same; a failure is told to the user, and the message settled.
   std::optional<LRESULT> HandleSafely(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void Command(WPARAM wParam, LPARAM lParam);
+  void TimeIsOver(UINT_PTR timerId);
   void RestoreFocus();
   void ChangeFont(UINT dpi);
 
@@ -82,10 +88,11 @@ struct FormView::Native {
 
   Form& form_;
   HWND window_ = nullptr;
-  bool isDialog_;
   std::unique_ptr<Display::Font> font_;
   std::vector<ControlWindow> controls_;
   std::unique_ptr<MenuBar> menuBar_;
+  std::map<UINT_PTR, Timer*> timers_;  // those that run
+  UINT_PTR lastTimerId_ = 0;
   Layout::Size leastSize_;
   bool isLaidOut_ = false;
   bool isGrowthPutOff_ = false;  // until it is restored

@@ -2,6 +2,7 @@
 
 #include "machine/win32/FormWindow.h"
 #include "machine/win32/System.h"
+#include "machine/win32/UserInput.h"
 #include "ui/FormView.h"
 
 namespace Platform {
@@ -15,6 +16,7 @@ bool IsKeyDown(const MSG& message) {
 }
 
 void Handle(MSG& message) {
+  if (IsHeldBack(message.message, message.wParam)) return;
   const HWND window = GetAncestor(message.hwnd, GA_ROOT);
   FormView::Native* form = FormView::Native::Find(window);
   if (form && IsKeyDown(message)) {
@@ -26,7 +28,7 @@ void Handle(MSG& message) {
     if (form->KeyDown(message)) return;
     form = FormView::Native::Find(window);  // the key may have taken the window down
   }
-  if (form && form->IsDialog() && IsDialogMessageA(window, &message)) return;
+  if (form && form->HasDialogKeys() && IsDialogMessageA(window, &message)) return;
   TranslateMessage(&message);
   DispatchMessageA(&message);
 }

@@ -6,10 +6,13 @@
 #include <shellapi.h>
 
 #include "machine/win32/FormWindow.h"
+#include "platform/LongStep.h"
 
 namespace Platform {
 
 void ShellOpen(const std::string& target) {
+  // The shell may run a loop of its own.
+  const LongStep step;
   // Programs that the shell talks to by COM need it made ready on this thread.
   const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
   SHELLEXECUTEINFOA what{};
