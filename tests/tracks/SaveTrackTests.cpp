@@ -161,8 +161,10 @@ TEST_F(SaveTrackStory, AfterAFailedSavePartsCanStillBeAdded) {
 }
 
 TEST_F(SaveTrackStory, AFolderThatIsGoneIsTold) {
+  machine.files.PutFolder("C:\\Gone");
   StartsTrack("C:\\Gone\\Race");
   AddsPart(0, 0, "5000");
+  machine.files.Delete("C:\\Gone");
   SavesSunnyTrack();
   EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, HasSubstr("C:\\Gone\\Race.trk")));
   EXPECT_EQ(user.SeesWindow(), EditorTitle);

@@ -26,6 +26,7 @@ class LongSteps : public Story {
     Close.OnClick = [this] { events.emplace_back("menu"); };
     Clock.OnTimer = [this] { events.emplace_back("tick"); };
     main.OnKeyDown = [this](KeyEvent&) { events.emplace_back("key"); };
+    main.OnLoad = [this] { main.TranslateMenu(); };
     main.OnClose = [this] { events.emplace_back("close"); };
     StartProgram(main);
     Clock.Start();

@@ -162,6 +162,7 @@ TEST_F(WindowLife, AWindowThatUnloadsItselfForAnotherIsNotItsOpener) {
 }
 
 TEST_F(WindowLife, AMainWindowMayOpenAnotherWhileItLoads) {
+  main.Unload();
   RunObjects::End();
   Form first(FixedText("First"));
   first.OnLoad = [this] { a.Show(); };
@@ -173,6 +174,7 @@ TEST_F(WindowLife, AMainWindowMayOpenAnotherWhileItLoads) {
 }
 
 TEST_F(WindowLife, AMainWindowThatUnloadsItselfEndsTheProgram) {
+  main.Unload();
   RunObjects::End();
   Form first(FixedText("First"));
   first.OnLoad = [&] { first.Unload(); };

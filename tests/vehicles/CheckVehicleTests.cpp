@@ -71,6 +71,7 @@ TEST_F(CheckVehicleStory, AFaultIsToldWithItsLine) {
 }
 
 TEST_F(CheckVehicleStory, AMissingFileIsTold) {
+  machine.files.PutFolder(Folder);
   user.ChoosesFile(Path);
   ChecksFile();
   EXPECT_THAT(user.Boxes(),
@@ -80,6 +81,7 @@ TEST_F(CheckVehicleStory, AMissingFileIsTold) {
 TEST_F(CheckVehicleStory, AFileInUseIsToldAsMissing) {
   machine.files.Put(Path, "skidrun=250\r\n");
   machine.files.HoldAlone(Path);
+  machine.files.PutFolder(Folder);
   user.ChoosesFile(Path);
   ChecksFile();
   EXPECT_THAT(user.Boxes(),
