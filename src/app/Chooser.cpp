@@ -29,8 +29,8 @@ void Chooser::Form_Load() {
 
 void Chooser::Submit_Click() {
   if (What.selected() < 0) return;
-  // The chooser goes first, so that a box of the action comes over the window that stays. Left open,
-  // it would be what a tool that closes goes back to.
+  // The chooser goes first, so that a box of the action comes over the window that stays. Left
+  // open, it would be what a tool that closes goes back to.
   if (whileRunning_ == MainWindow::ComesBack) {
     GoBack();
   } else {

@@ -53,10 +53,9 @@ void TrackParts::Submit_Click() {
   TrackCurve.Select(0);
   TrackSurface.Select(0);
   PartLength.SetText("");
-  // The editor's window is shown first: what a hidden list selects, a screen reader does not tell.
-  GoBack();
+  // Given up first: the editor is back whatever becomes of the line.
+  Leave();
   if (OnAdded) OnAdded(line);
-  GoBack();
 }
 
 void TrackParts::Ccl_Click() {

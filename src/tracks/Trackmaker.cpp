@@ -64,7 +64,8 @@ void Trackmaker::Ccl_Click() {
 void NewTrack() {
   const std::string path = TrackManager::ChooseFileOfNewTrack();
   if (path.empty()) return;
-  // The path is set when the window is there: if it cannot be shown, the track in work is as before.
+  // The path is set when the window is there: if it cannot be shown, the track in work is as
+  // before.
   PerRun<Trackmaker>().Show();
   TheTrack().TrackPath = path;
 }

@@ -139,7 +139,7 @@ TEST(RecordFailureSweep, AnySingleFailureLeavesFileAndWindowInAgreement) {
     EXPECT_EQ(Listed(), TracksIn(machine.files.Text(path)));
     user.Presses("Escape");
     if (isOpen()) {
-      EXPECT_THAT(machine.FailedCall(), testing::StartsWith("ShowWindow"));
+      EXPECT_THAT(machine.FailedCall(), testing::StartsWith("FormView::Show"));
       user.Presses("Escape");
     }
     EXPECT_FALSE(isOpen());

@@ -113,7 +113,7 @@ TEST(TrackFailureSweep, APartIsAddedWhateverFails) {
     EXPECT_EQ(pack.user.SeesWindow(), EditorTitle);
     EXPECT_EQ(TheTrack().TrackText, OnePart);
     const std::string call = pack.machine.FailedCall();
-    if (call == "FormView::RowAdded" || call.starts_with("ShowWindow")) {  // the part, no line
+    if (call == "FormView::RowAdded" || call.starts_with("FormView::Show")) {  // the part, no line
       EXPECT_TRUE(pack.WasToldOfAFailure());
     } else {
       EXPECT_THAT(ShownParts(),

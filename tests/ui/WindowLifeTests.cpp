@@ -377,7 +377,8 @@ TEST(WindowFailures, WhateverCannotBeMadeIsToldAndAWindowIsThere) {
     }
     EXPECT_THAT(machine.screen.Titles(), ElementsAre("Tool"));
   });
-  EXPECT_THAT(calls, ElementsAre("MakeWindow Tool", "StartTimer Tool", "ShowWindow Tool"));
+  EXPECT_THAT(calls, ElementsAre("FormView::FormView Tool", "FormView::StartTimer Tool",
+                                 "FormView::Show Tool"));
 }
 
 TEST_F(WindowLife, AMenuThatCannotBeMadeStaysAsItIs) {
@@ -385,14 +386,14 @@ TEST_F(WindowLife, AMenuThatCannotBeMadeStaysAsItIs) {
   MenuItem Auto(Options, {.text = FixedText("&Auto")});
   machine.FailAnyCall(Simulated::After{0});
   EXPECT_THROW(Auto.SetChecked(true), RuntimeError);
-  EXPECT_EQ(machine.FailedCall(), "MakeMenu Main");
+  EXPECT_EQ(machine.FailedCall(), "FormView::MenuChanged Main");
   EXPECT_FALSE(Auto.IsChecked());
 }
 
 TEST_F(WindowLife, AModalWindowThatCannotBeShownLeavesNothingBehind) {
   machine.FailAnyCall(Simulated::After{1});
   EXPECT_THROW(a.ShowModal(), RuntimeError);
-  EXPECT_EQ(machine.FailedCall(), "ShowWindow A");
+  EXPECT_EQ(machine.FailedCall(), "FormView::Show A");
   EXPECT_EQ(ActiveForm(), &main);
   EXPECT_EQ(Loaded(), 1u);
 }

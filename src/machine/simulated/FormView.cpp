@@ -53,7 +53,7 @@ void FailIfStruck(const std::string& call) {
 }  // namespace
 
 FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {
-  FailIfStruck("MakeWindow " + form.title());
+  FailIfStruck("FormView::FormView " + form.title());
   for (NativeControl& control : native_->controls) {
     if (control.kind() == Control::Kind::ListBox) Fill(control);
   }
@@ -65,7 +65,7 @@ FormView::~FormView() {
 }
 
 void FormView::Show(FormView*) {
-  FailIfStruck("ShowWindow " + native_->form.title());
+  FailIfStruck("FormView::Show " + native_->form.title());
   if (Simulated::TheMachine().screen.refusesWindows) throw std::bad_alloc();
   native_->isShown = true;
   native_->FollowFocus();
@@ -108,7 +108,7 @@ void FormView::TitleChanged() {
 }
 
 void FormView::MenuChanged() {
-  FailIfStruck("MakeMenu " + native_->form.title());
+  FailIfStruck("FormView::MenuChanged " + native_->form.title());
   native_->ShowMenu();
 }
 
@@ -174,7 +174,7 @@ int FormView::SelectedRow(const ListBox& list) const {
 }
 
 void FormView::StartTimer(Timer& timer) {
-  FailIfStruck("StartTimer " + native_->form.title());
+  FailIfStruck("FormView::StartTimer " + native_->form.title());
   native_->timers[&timer] = Simulated::TheMachine().clock.milliseconds() + timer.milliseconds();
 }
 
