@@ -12,6 +12,7 @@ LangText UsualCause(RuntimeError::Number number) {
     case RuntimeError::TypeMismatch: return RuntimeErrorTexts.TypeMismatch;
     case RuntimeError::FileNotFound: return RuntimeErrorTexts.FileNotFound;
     case RuntimeError::DeviceError: return RuntimeErrorTexts.DeviceError;
+    case RuntimeError::FileAlreadyExists: return RuntimeErrorTexts.FileAlreadyExists;
     case RuntimeError::DiskFull: return RuntimeErrorTexts.DiskFull;
     case RuntimeError::PermissionDenied: return RuntimeErrorTexts.PermissionDenied;
     case RuntimeError::DiskNotReady: return RuntimeErrorTexts.DiskNotReady;
@@ -23,11 +24,23 @@ LangText UsualCause(RuntimeError::Number number) {
 
 }  // namespace
 
-RuntimeError::RuntimeError(Number number, const std::string& file)
-    : RuntimeError(number, UsualCause(number), file) {}
+RuntimeError::RuntimeError(Number number, const std::string& file, const SystemCause& system)
+    : RuntimeError(number, UsualCause(number), file, system) {}
 
-RuntimeError::RuntimeError(Number number, const LangText& cause, const std::string& file)
-    : std::runtime_error(cause.english), number_(number), cause_(cause), file_(file) {}
+RuntimeError::RuntimeError(Number number, const LangText& cause, const std::string& file,
+                           const SystemCause& system)
+    : std::runtime_error(cause.english),
+      number_(number),
+      cause_(cause),
+      file_(file),
+      system_(system) {}
+
+RuntimeError RuntimeError::WithCopy(const RuntimeError& failure, const std::string& copy) {
+  RuntimeError damaging(failure.number(), RuntimeErrorTexts.SaveHalfDone, failure.file(),
+                        failure.system());
+  damaging.copy_ = copy;
+  return damaging;
+}
 
 const LangText& CauseOf(const std::exception& error) {
   if (const auto* failure = dynamic_cast<const RuntimeError*>(&error)) return failure->cause();

@@ -18,8 +18,45 @@ struct RuntimeErrorTextTable {
   LangText PathNotFound{"RTEPathNotFound", "The folder was not found."};
   LangText NameNotUsable{"RTENameNotUsable",
                          "The file name is too long or holds characters that cannot be used."};
+  LangText FileAlreadyExists{"RTEFileAlreadyExists", "There is a file of that name already."};
   LangText Unexpected{"RTEUnexpected", "An unexpected error occurred."};
+  LangText SaveHalfDone{
+      "RTESaveHalfDone",
+      "The file could be saved only in part. What it held before is in the copy."};
   LangText File{"RTEFile", "File:"};
+  LangText Copy{"RTECopy", "Copy:"};
+  LangText SystemError{"RTESystemError", "system error"};
   LangText Title{"RTETitle", "Error"};
+
+  // What was being done, in the last line of a failure: "Opening a file: system error 32".
+  LangText OpeningFile{"RTEOpeningFile", "Opening a file"};
+  LangText ReadingFile{"RTEReadingFile", "Reading a file"};
+  LangText WritingFile{"RTEWritingFile", "Writing a file"};
+  LangText ReplacingFile{"RTEReplacingFile", "Putting a written file in place"};
+  LangText RewritingFile{"RTERewritingFile", "Rewriting a file in place"};
+  LangText RestoringFile{"RTERestoringFile", "Putting back what a file held before"};
+  LangText RenamingFile{"RTERenamingFile", "Renaming"};
+  LangText DeletingFile{"RTEDeletingFile", "Deleting a file"};
+  LangText AskingAttributes{"RTEAskingAttributes", "Asking for attributes"};
+  LangText SettingAttributes{"RTESettingAttributes", "Setting attributes"};
+  LangText ListingFolder{"RTEListingFolder", "Listing a folder"};
+  LangText MakingFolder{"RTEMakingFolder", "Making a folder"};
+  LangText MakingWindow{"RTEMakingWindow", "Making a window"};
+  LangText MakingMenu{"RTEMakingMenu", "Making a menu"};
+  LangText MeasuringTexts{"RTEMeasuringTexts", "Measuring texts"};
+  LangText ShowingFileDialog{"RTEShowingFileDialog", "Showing a file dialog"};
+  LangText OpeningSoundDevice{"RTEOpeningSoundDevice", "Opening the sound device"};
+  LangText MakingMutex{"RTEMakingMutex", "Making a mutex"};
+
+  // Told when the old contents of a file that was saved only in part are found again.
+  LangText PutBackTitle{"RTEPutBackTitle", "File put back"};
+  LangText PutBack{
+      "RTEPutBack",
+      "A save of this file was cut off half way. What the file held before has been put "
+      "back."};
+  LangText NotPutBack{
+      "RTENotPutBack",
+      "A save of this file was cut off half way, and another program has changed the "
+      "file since. What it held before is in the copy."};
 };
 inline constexpr RuntimeErrorTextTable RuntimeErrorTexts;

@@ -14,12 +14,22 @@ constexpr std::string_view Reserved = "<>:\"|?*";
 
 size_t LastBackslash(std::string_view path) {
   size_t last = std::string_view::npos;
-  for (size_t i = 0; i < path.size(); ++i) {
+  for (size_t i = 0; i < path.size(); i += CharacterLength(path.substr(i))) {
     if (path[i] == '\\') last = i;
-    // The second byte of a Japanese or Chinese character may be the byte of a backslash.
-    if (IsLeadByte(path[i])) ++i;
   }
   return last;
+}
+
+// Such a name means a device in every folder and with every extension; on some systems it can be
+// that of a file too, which others could not delete.
+bool IsDeviceName(const std::string& name) {
+  std::string stem = Text::LowerAscii(name.substr(0, name.find('.')));
+  stem.erase(stem.find_last_not_of(' ') + 1);
+  for (const char* device : {"con", "prn", "aux", "nul", "conin$", "conout$"}) {
+    if (stem == device) return true;
+  }
+  const bool hasNumber = stem.size() == 4 && stem[3] >= '1' && stem[3] <= '9';
+  return hasNumber && (stem.starts_with("com") || stem.starts_with("lpt"));
 }
 
 }  // namespace
@@ -36,14 +46,13 @@ std::string NameOf(std::string_view path) {
 
 bool IsNameUsable(std::string_view path) {
   if (path.size() > LongestPath) return false;
-  for (size_t i = 0; i < path.size(); ++i) {
+  // The later bytes of a character may look like one of those that no name can hold.
+  for (size_t i = 0; i < path.size(); i += CharacterLength(path.substr(i))) {
     const bool isDriveColon = path[i] == ':' && i == 1;
     if (static_cast<unsigned char>(path[i]) < ' ') return false;
     if (!isDriveColon && Reserved.find(path[i]) != std::string_view::npos) return false;
-    // In a code page of two bytes a character, the second may look like one of the above.
-    if (IsLeadByte(path[i])) ++i;
   }
-  return true;
+  return !IsDeviceName(NameOf(path));
 }
 
 void CheckName(const std::string& path) {

@@ -1,5 +1,5 @@
-// The parts of a path in the system code page. Paths use "\" between folders; a byte "\" that is
-// the second half of a character is none.
+// The parts of a path in the system code page. Paths use "\" between folders; a byte "\" that is a
+// later part of a character is none.
 #pragma once
 
 #include <string>
@@ -13,8 +13,9 @@ std::string FolderOf(std::string_view path);
 // The path behind its last backslash; the whole path if there is none.
 std::string NameOf(std::string_view path);
 
-// False if the path is longer than 259 bytes or holds a character that no name can have, such as
-// the "?" that stands for one that the code page lacks.
+// False if the path is longer than 259 bytes, holds a character that no name can have, such as the
+// "?" that stands for one that the code page lacks, or ends in the name of a device, such as "nul",
+// "con.trk" or "Com1".
 bool IsNameUsable(std::string_view path);
 
 // Fails with RuntimeError PathFileAccess, cause NameNotUsable, if it is not.

@@ -46,7 +46,7 @@ int64_t CheckRecordFile(const std::string& path, std::string& message) {
   try {
     return CheckLines(path, message);
   } catch (const std::exception& error) {
-    message = FailureText(CauseOf(error), path);
+    message = FailureText(error, path);
     return UnreadableRecordFile;
   }
 }

@@ -19,10 +19,10 @@ bool IsLineEndAt(std::string_view text, size_t i) {
   return text.substr(i, Text::LineEnd.size()) == Text::LineEnd;
 }
 
-// The bytes that belong together: a line end, or a character of two bytes.
+// The bytes that belong together: a line end, or a character.
 size_t LengthAt(std::string_view text, size_t i) {
   if (IsLineEndAt(text, i)) return Text::LineEnd.size();
-  return IsLeadByte(text[i]) && i + 1 < text.size() && !IsControl(text[i + 1]) ? 2 : 1;
+  return CharacterLength(text.substr(i));
 }
 
 std::string WithoutControls(std::string_view text) {
@@ -31,7 +31,7 @@ std::string WithoutControls(std::string_view text) {
   for (size_t i = 0; i < text.size();) {
     const size_t length = LengthAt(text, i);
     // Half a character would take the next one with it.
-    const bool isBroken = length == 1 && IsLeadByte(text[i]);
+    const bool isBroken = WholeCharacterLength(std::string_view(text).substr(i)) == 0;
     const bool isShown = text[i] == '\t' || text[i] == '\n' || IsLineEndAt(text, i);
     const bool isHidden = IsControl(text[i]) && !isShown;
     visible.append(isBroken || isHidden ? "?" : text.substr(i, length));

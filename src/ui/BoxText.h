@@ -12,7 +12,7 @@ inline constexpr size_t LongestBoxText = 1024;
 // The text with "?" in place of each control character, which would end the text or not be seen.
 // Tabs, CR LF and a lone LF stay: a box breaks the line at an LF, as the files of other systems do.
 // Of a text of more than that many bytes the beginning and the end are left, with " ... " between
-// them. No character of two bytes is cut.
+// them. No character is cut.
 std::string BoxText(const std::string& text, size_t longest = LongestBoxText);
 
 }  // namespace Platform

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
+#include "platform/InterruptedSave.h"
 #include "text/FailureText.h"
 #include "text/StringTable.h"
 #include "ui/BoxView.h"
@@ -20,8 +21,8 @@ namespace Platform {
 namespace {
 
 // Tells the user that an action could not be finished.
-void Report(const LangText& cause, const std::string& file) {
-  MsgBox(FailureText(cause, file), GetLangString(RuntimeErrorTexts.Title), Icon::Critical);
+void Report(const std::exception& error) {
+  MsgBox(FailureText(error), GetLangString(RuntimeErrorTexts.Title), Icon::Critical);
 }
 
 // The same where the report itself fails: with nothing that could fail again.
@@ -34,11 +35,18 @@ void ReportInBrief(const LangText& cause) noexcept {
   }
 }
 
-void ReportSafely(const LangText& cause, const std::string& file = {}) noexcept {
+void ReportSafely(const std::exception& error) noexcept {
   try {
-    Report(cause, file);
+    Report(error);
   } catch (...) {
-    ReportInBrief(cause);
+    ReportInBrief(CauseOf(error));
+  }
+}
+
+// Tells what has become of files whose saves were cut off earlier, and were met just now.
+void TellSaveNotes() {
+  for (const SaveNote& note : TakeSaveNotes()) {
+    MsgBox(SaveNoteText(note), GetLangString(RuntimeErrorTexts.PutBackTitle), Icon::Information);
   }
 }
 
@@ -298,17 +306,21 @@ void Dispatch(std::function<void()> handler) noexcept {
     TellFailure();
   }
   TheStage().EventEnds();
+  if (TheStage().IsHandlingEvents()) return;
+  try {
+    TellSaveNotes();
+  } catch (...) {
+    TellFailure();
+  }
 }
 
 void TellFailure() noexcept {
   try {
     throw;
-  } catch (const RuntimeError& error) {
-    ReportSafely(error.cause(), error.file());
   } catch (const std::exception& error) {
-    ReportSafely(CauseOf(error));
+    ReportSafely(error);
   } catch (...) {
-    ReportSafely(RuntimeErrorTexts.Unexpected);
+    ReportSafely(std::exception());
   }
 }
 

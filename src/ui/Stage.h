@@ -39,6 +39,7 @@ class Stage {
 
   void EventBegins() { ++events_; }
   void EventEnds() noexcept;
+  bool IsHandlingEvents() const { return events_ > 0; }
   void BoxOpens() { ++boxes_; }
   void BoxCloses() noexcept;
   void ModalOpens(Form& form) { modals_.push_back(&form); }

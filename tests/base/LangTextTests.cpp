@@ -43,10 +43,12 @@ TEST(RuntimeError, CarriesItsUsualCauseAndTheFile) {
 
 TEST(RuntimeError, EachNumberHasACauseOfItsOwn) {
   const RuntimeError::Number numbers[] = {
-      RuntimeError::InvalidCall,    RuntimeError::Overflow,         RuntimeError::OutOfMemory,
-      RuntimeError::TypeMismatch,   RuntimeError::FileNotFound,     RuntimeError::DeviceError,
-      RuntimeError::DiskFull,       RuntimeError::PermissionDenied, RuntimeError::DiskNotReady,
-      RuntimeError::PathFileAccess, RuntimeError::PathNotFound};
+      RuntimeError::InvalidCall,  RuntimeError::Overflow,
+      RuntimeError::OutOfMemory,  RuntimeError::TypeMismatch,
+      RuntimeError::FileNotFound, RuntimeError::DeviceError,
+      RuntimeError::DiskFull,     RuntimeError::PermissionDenied,
+      RuntimeError::DiskNotReady, RuntimeError::PathFileAccess,
+      RuntimeError::PathNotFound, RuntimeError::FileAlreadyExists};
   for (const auto number : numbers) {
     EXPECT_STRNE(RuntimeError(number).cause().key, RuntimeErrorTexts.Unexpected.key) << number;
     for (const auto other : numbers) {

@@ -31,4 +31,7 @@ std::string& SpeakersFile();
 // and returns true.
 bool WasStartedToOpen(int count, char** arguments);
 
+// The same if it was started to make a save that is cut off.
+bool WasStartedToSave(int count, char** arguments);
+
 }  // namespace RealMachine

@@ -1,8 +1,6 @@
 // What only the real machine can get wrong with files and their dialogs.
 #include <gmock/gmock.h>
 
-#include <functional>
-
 #include "base/RuntimeError.h"
 #include "machine/win32/CodePage.h"
 #include "machine/win32/System.h"
@@ -40,23 +38,6 @@ class Environment {
   const char* name_;
   std::string before_;
 };
-
-TEST_F(RealFiles, ADeviceIsNoFile) {
-  const std::string device = In("nul");
-  const auto isRefused = [&](const std::function<void()>& call) {
-    try {
-      call();
-    } catch (const RuntimeError& error) {
-      return error.file() == device;
-    }
-    return false;
-  };
-  EXPECT_TRUE(isRefused([&] { Platform::FileReader reader(device); }));
-  EXPECT_TRUE(isRefused([&] { Platform::ReadWholeFile(device); }));
-  EXPECT_TRUE(isRefused([&] { Platform::AppendToFile(device, "1"); }));
-  EXPECT_TRUE(isRefused([&] { Platform::WriteWholeFile(device, "1"); }));
-  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{});
-}
 
 class RewritingInPlace : public RealFiles {
  protected:
@@ -148,6 +129,19 @@ TEST_F(RealFiles, ADialogBeginsWithThePatternSelected) {
     });
     EXPECT_EQ(dialog.Show(), In("hill.trk"));
   }
+}
+
+TEST_F(RealFiles, CharactersOfOtherCodePagesAreKnown) {
+  using Platform::WholeCharacterLengthIn;
+  EXPECT_EQ(WholeCharacterLengthIn(932, "\x95\x5C"), 2u);
+  EXPECT_EQ(WholeCharacterLengthIn(932, "\x95"), 0u);
+  EXPECT_EQ(WholeCharacterLengthIn(932, "\x95\r\n"), 0u);
+  EXPECT_EQ(WholeCharacterLengthIn(936, "\x95\x5C"), 2u);
+  EXPECT_EQ(WholeCharacterLengthIn(1252, "\x95\x5C"), 1u);
+  EXPECT_EQ(WholeCharacterLengthIn(CP_UTF8, "\xF0\x9F\x98\x80"), 4u);
+  EXPECT_EQ(WholeCharacterLengthIn(CP_UTF8, "\xF0\x9F\x98"), 0u);
+  EXPECT_EQ(Platform::NarrowTo(932, L"\u8868"), "\x95\x5C");
+  EXPECT_EQ(Platform::WidenFrom(CP_UTF8, "\xF0\x9F\x98\x80"), L"\xD83D\xDE00");
 }
 
 TEST_F(RealFiles, ADialogLeavesTheCurrentFolderAndTheChosenNameAsTheyAre) {

@@ -23,9 +23,13 @@ constexpr const char* ScratchName = "sk2contract";  // and the number of the pro
 
 // Where the system keeps temporary files, with a backslash at its end.
 std::string FolderOfScratchFolders() {
-  char path[MAX_PATH + 1];
-  const DWORD length = GetTempPathA(sizeof path, path);
-  return {path, length};
+  // Asked for once: a test may move the folder.
+  static const std::string folder = [] {
+    char path[MAX_PATH + 1];
+    const DWORD length = GetTempPathA(sizeof path, path);
+    return std::string(path, length);
+  }();
+  return folder;
 }
 
 std::string TemporaryFolder() {
@@ -249,8 +253,12 @@ int AttributesOf(const std::string& path) {
 }
 
 void Hold(const std::string& path, Sharing sharing) {
-  const DWORD access = sharing == Sharing::ForWriting ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
-  const DWORD shared = sharing == Sharing::WithNobody ? 0 : FILE_SHARE_READ;
+  const bool isWritten = sharing == Sharing::ForWriting || sharing == Sharing::ForReadingAndWriting;
+  const DWORD access = isWritten ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ;
+  const DWORD shared = sharing == Sharing::WithNobody ? 0
+                       : sharing == Sharing::ForReadingAndWriting
+                           ? FILE_SHARE_READ | FILE_SHARE_WRITE
+                           : FILE_SHARE_READ;
   const HANDLE file = CreateFileA(path.c_str(), access, shared, nullptr, OPEN_EXISTING,
                                   FILE_ATTRIBUTE_NORMAL, nullptr);
   ASSERT_NE(file, INVALID_HANDLE_VALUE) << path;
@@ -260,6 +268,20 @@ void Hold(const std::string& path, Sharing sharing) {
 void LetGo(const std::string& path) {
   CloseHandle(Holds().at(path));
   Holds().erase(path);
+}
+
+OwnTemporaryFolder::OwnTemporaryFolder() {
+  char before[MAX_PATH + 1] = "";
+  before_.assign(before, GetEnvironmentVariableA("TMP", before, sizeof before));
+  const std::string folder = TemporaryFolder() + ".temp";
+  RemoveFolder(folder);
+  CreateDirectoryA(folder.c_str(), nullptr);
+  SetEnvironmentVariableA("TMP", folder.c_str());
+}
+
+OwnTemporaryFolder::~OwnTemporaryFolder() {
+  SetEnvironmentVariableA("TMP", before_.c_str());
+  RemoveFolder(TemporaryFolder() + ".temp");
 }
 
 bool RefuseNewFiles(const std::string& folder) {

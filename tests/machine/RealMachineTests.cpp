@@ -2,9 +2,12 @@
 #include <string_view>
 
 #include "tests/machine/RealMachine.h"
+#include "tests/platform/CharactersContract.h"
 #include "tests/platform/FilesContract.h"
+#include "tests/platform/FoldersContract.h"
 #include "tests/platform/NumbersContract.h"
 #include "tests/platform/RegistryContract.h"
+#include "tests/platform/SavesContract.h"
 #include "tests/platform/SoundContract.h"
 #include "tests/platform/SystemContract.h"
 #include "tests/ui/ControlsContract.h"
@@ -18,7 +21,9 @@
 
 // contract-tests [--speakers=FILE]: the file is the one that E2e::Recording reads.
 int main(int argc, char** argv) {
-  if (RealMachine::WasStartedToOpen(argc, argv)) return 0;
+  if (RealMachine::WasStartedToOpen(argc, argv) || RealMachine::WasStartedToSave(argc, argv)) {
+    return 0;
+  }
   testing::InitGoogleTest(&argc, argv);
   for (int i = 1; i < argc; ++i) {
     constexpr std::string_view Option = "--speakers=";

@@ -74,16 +74,21 @@ int AttributesOf(const std::string& path) {
 }
 
 void Hold(const std::string& path, Sharing sharing) {
-  if (sharing == Sharing::WithNobody) {
-    machine->files.HoldAlone(path);
-  } else {
-    machine->files.Hold(path);
+  switch (sharing) {
+    case Sharing::ForReading:
+    case Sharing::ForWriting: return machine->files.Hold(path);
+    case Sharing::WithNobody: return machine->files.HoldAlone(path);
+    case Sharing::ForReadingAndWriting: return machine->files.HoldShared(path);
   }
 }
 
 void LetGo(const std::string& path) {
   machine->files.Release(path);
 }
+
+// Each machine has a new one anyway.
+OwnTemporaryFolder::OwnTemporaryFolder() = default;
+OwnTemporaryFolder::~OwnTemporaryFolder() = default;
 
 bool RefuseNewFiles(const std::string& folder) {
   machine->files.RefuseNewFiles(folder);

@@ -1,7 +1,10 @@
 // Holds the simulated machine to the contracts.
+#include "tests/platform/CharactersContract.h"
 #include "tests/platform/FilesContract.h"
+#include "tests/platform/FoldersContract.h"
 #include "tests/platform/NumbersContract.h"
 #include "tests/platform/RegistryContract.h"
+#include "tests/platform/SavesContract.h"
 #include "tests/platform/SoundContract.h"
 #include "tests/platform/SystemContract.h"
 #include "tests/ui/ControlsContract.h"

@@ -45,12 +45,26 @@ int AttributesOf(const std::string& path);
 
 // Another program has a file open, until the test ends or lets go of it.
 enum class Sharing {
-  ForReading,  // others may read it, but not write, replace or delete it
-  ForWriting,  // it is being written, and others may do no more than read it
-  WithNobody,  // others cannot even read it
+  ForReading,            // others may read it, but not write, replace or delete it
+  ForWriting,            // it is being written, and others may do no more than read it
+  WithNobody,            // others cannot even read it
+  ForReadingAndWriting,  // others may read and write it, but not replace or delete it
 };
 void Hold(const std::string& path, Sharing sharing);
 void LetGo(const std::string& path);
+
+// While it lives, the system keeps temporary files in a folder of the test's own, beside
+// ScratchFolder.
+class OwnTemporaryFolder {
+ public:
+  OwnTemporaryFolder();
+  ~OwnTemporaryFolder();
+  OwnTemporaryFolder(const OwnTemporaryFolder&) = delete;
+  OwnTemporaryFolder& operator=(const OwnTemporaryFolder&) = delete;
+
+ private:
+  std::string before_;
+};
 
 // Takes from the user the right to make and delete files in a folder; they may still write those
 // that are there. False if this machine cannot do so: the test is then skipped.

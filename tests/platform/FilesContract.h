@@ -1,72 +1,8 @@
-// What every machine promises of files: the words of platform/Files.h, and those of Windows where
-// they leave something open. Included once by each machine's tests.
+// What every machine promises of reading and writing files: the words of platform/Files.h, and
+// those of Windows where they leave something open. Included once by each machine's tests.
 #pragma once
 
-#include <gmock/gmock.h>
-
-#include "base/RuntimeError.h"
-#include "platform/Files.h"
-#include "tests/machine/TestMachine.h"
-
-using Platform::AppendToFile;
-using Platform::FileExists;
-using Platform::FileReader;
-using Platform::FileWriter;
-using Platform::ReadWholeFile;
-using Platform::RemoveFile;
-using Platform::StampOf;
-using Platform::WriteWholeFile;
-using TestMachine::Sharing;
-
-class FilesContract : public ContractTest {
- protected:
-  std::string In(const std::string& name) const { return folder + "\\" + name; }
-
-  // The number and the file with which an action fails.
-  template <class Action>
-  static testing::AssertionResult FailsWith(RuntimeError::Number number, const std::string& path,
-                                            const Action& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      if (error.number() != number) {
-        return testing::AssertionFailure() << "failed with " << error.number();
-      }
-      if (error.file() != path) return testing::AssertionFailure() << "told " << error.file();
-      return testing::AssertionSuccess();
-    }
-    return testing::AssertionFailure() << "did not fail";
-  }
-
-  template <class Action>
-  static testing::AssertionResult FailsByName(const std::string& path, const Action& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      if (std::string(error.cause().key) == RuntimeErrorTexts.NameNotUsable.key) {
-        return testing::AssertionSuccess() << error.number();
-      }
-      return testing::AssertionFailure() << "cause " << error.what();
-    }
-    return testing::AssertionFailure() << "did not fail: " << path;
-  }
-
-  static std::string ReadToEnd(FileReader& reader) {
-    std::string all;
-    char block[5];
-    while (const size_t count = reader.Read(block, sizeof block)) all.append(block, count);
-    return all;
-  }
-
-  // Starts, writes and finishes a file in one go.
-  static void WriteInPieces(const std::string& path, const std::vector<std::string>& pieces) {
-    FileWriter writer(path);
-    for (const std::string& piece : pieces) writer.Write(piece);
-    writer.Finish();
-  }
-
-  const std::string folder = TestMachine::ScratchFolder();
-};
+#include "tests/platform/FileContract.h"
 
 // --- FileExists, StampOf ---
 
@@ -431,14 +367,14 @@ TEST_F(FilesContract, TellsWhatKeepsAFileFromBeingRead) {
   EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, In("hill.trk"), open("hill.trk")));
 }
 
-TEST_F(FilesContract, AFileThatIsBeingReadCannotBeReplacedOrDeleted) {
+TEST_F(FilesContract, AFileThatIsBeingReadCannotBeDeletedOrRenamed) {
   const std::string path = In("hill.trk");
   TestMachine::PutFile(path, "old");
   {
     FileReader reader(path);
-    EXPECT_TRUE(
-        FailsWith(RuntimeError::PermissionDenied, path, [&] { WriteWholeFile(path, "1"); }));
     EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, [&] { RemoveFile(path); }));
+    EXPECT_TRUE(
+        FailsWith(RuntimeError::PermissionDenied, path, [&] { RenameFile(path, In("lake.trk")); }));
     EXPECT_EQ(ReadWholeFile(path), "old") << "but it can be read twice";
     AppendToFile(path, "er");
     EXPECT_EQ(ReadToEnd(reader), "older") << "and what is added is read too";

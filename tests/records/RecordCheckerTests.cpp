@@ -92,8 +92,8 @@ TEST_F(RecordCheckerStory, AFileThatCannotBeReadIsNotAFailure) {
   PutRecords("a=1\r\n");
   machine.files.HoldAlone(RecordPath);
   EXPECT_EQ(CheckRecordFile(RecordPath, message), UnreadableRecordFile);
-  EXPECT_EQ(message,
-            "Access was denied, or the file is in use by another program.\r\nFile: " + RecordPath);
+  EXPECT_EQ(message, "Access was denied, or the file is in use by another program.\r\nFile: " +
+                         RecordPath + "\r\nOpening a file: system error 32");
   machine.files.Release(RecordPath);
   EXPECT_EQ(CheckRecordFile(RecordPath, message), 0);
 }
@@ -137,8 +137,9 @@ TEST(RecordCheckerSweep, AnySingleFailureIsAResult) {
     std::string message;
     const int64_t status = CheckRecordFile(path, message);
     int64_t expected = 2;
-    if (machine.FailedCall().starts_with("FileExists")) expected = MissingRecordFile;
-    if (machine.FailedCall().starts_with("FileReader")) expected = UnreadableRecordFile;
+    const std::string call = machine.FailedCall();
+    if (call == "GetInfo " + path) expected = MissingRecordFile;
+    if (call == "Open " + path || call == "Read " + path) expected = UnreadableRecordFile;
     EXPECT_EQ(status, expected);
     EXPECT_NE(message, "");
   });

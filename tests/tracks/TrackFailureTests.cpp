@@ -9,6 +9,9 @@
 
 namespace {
 
+using testing::AnyOf;
+using testing::ElementsAre;
+
 const std::string Game = "C:\\Games\\Skidrun2";
 const std::string Tracks = Game + "\\tracks";
 const std::string Race = Tracks + "\\Race.trk";
@@ -63,7 +66,8 @@ void LetEachCallFail(const std::function<void(StartedPack&, Simulated::After)>& 
     action(pack, after);
     ASSERT_NE(Platform::ActiveForm(), nullptr);
     EXPECT_TRUE(Platform::ActiveForm()->IsVisible());
-    EXPECT_EQ(machine.files.Names(Tracks), Names("Race.trk"));
+    // A random track has its name in small letters.
+    EXPECT_THAT(machine.files.Names(Tracks), ElementsAre(AnyOf("Race.trk", "race.trk")));
   });
   EXPECT_GT(calls.size(), 3U) << "hardly a call was made to fail";
 }

@@ -335,9 +335,9 @@ TEST(VehicleCheckerSweep, AnyFailureIsAVerdict) {
     machine.FailAnyCall(after);
     Verdict found{};
     found.result = CheckVehicleFile(path, found.code, found.message);
-    if (machine.FailedCall().starts_with("FileReader")) {
+    if (machine.FailedCall() == "Open " + path || machine.FailedCall() == "Read " + path) {
       EXPECT_EQ(found, (Verdict{-1, VehicleFault::Unreadable, NoFile}));
-    } else if (machine.FailedCall().starts_with("FileExists")) {
+    } else if (machine.FailedCall().starts_with("GetInfo " + folder)) {
       EXPECT_EQ(found, (Verdict{2, VehicleFault::NonexistentSound,
                                 "The sound " + folder + "\\horn.wav does not exist."}));
     } else {

@@ -12,17 +12,33 @@
 
 namespace Simulated {
 
+namespace {
+
+// The small letter of one that lies between "À" and "Þ" of the Western code page and of Unicode.
+constexpr unsigned char WesternStart = 0xC0;
+constexpr unsigned char WesternEnd = 0xDE;
+constexpr unsigned char Multiplication = 0xD7;
+
+bool IsWesternCapital(unsigned char number) {
+  return number >= WesternStart && number <= WesternEnd && number != Multiplication;
+}
+
+}  // namespace
+
 std::string FoldCase(std::string_view text) {
-  const LocaleSettings& locale = TheMachine().locale;
+  const int codePage = TheMachine().locale.codePage;
   std::string folded(text);
-  for (size_t i = 0; i < folded.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(folded[i]);
-    const bool isWestern = locale.codePage == 1252;
-    const bool isCapital =
-        (byte >= 'A' && byte <= 'Z') ||
-        (isWestern && byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);  // 0xD7 multiplies
-    if (isCapital) folded[i] = static_cast<char>(byte + 0x20);
-    if (locale.IsLeadByte(folded[i])) ++i;
+  for (size_t i = 0; i < folded.size();) {
+    const size_t length = Platform::CharacterLength(std::string_view(folded).substr(i));
+    // In UTF-8 those letters have C3 before them, and stand 0x40 lower.
+    char& last = folded[i + length - 1];
+    const auto byte = static_cast<unsigned char>(last);
+    const bool isOfTwo = codePage == 65001 && length == 2 && folded[i] == '\xC3';
+    const bool isCapital = (length == 1 && byte >= 'A' && byte <= 'Z') ||
+                           (length == 1 && codePage == 1252 && IsWesternCapital(byte)) ||
+                           (isOfTwo && IsWesternCapital(static_cast<unsigned char>(byte + 0x40)));
+    if (isCapital) last = static_cast<char>(byte + 0x20);
+    i += length;
   }
   return folded;
 }
@@ -37,13 +53,14 @@ bool EndsInSeparator(const std::string& path) {
 std::vector<std::string> NamesOn(const std::string& path) {
   std::vector<std::string> names(1);
   const std::string folded = FoldCase(path);
-  for (size_t i = 0; i < folded.size(); ++i) {
+  for (size_t i = 0; i < folded.size();) {
+    const size_t length = Platform::CharacterLength(std::string_view(folded).substr(i));
     if (folded[i] == '\\' || folded[i] == '/') {
       names.emplace_back();
-      continue;
+    } else {
+      names.back().append(folded, i, length);
     }
-    names.back() += folded[i];
-    if (Platform::IsLeadByte(folded[i]) && i + 1 < folded.size()) names.back() += folded[++i];
+    i += length;
   }
   return names;
 }
@@ -71,6 +88,22 @@ std::string KeyOf(const std::string& path) {
 }
 
 }  // namespace
+
+bool DiskEntry::Allows(const Opening& wanted) const {
+  const auto allows = [&](const Opening& other) {
+    return (!wanted.reads || other.letsRead) && (!wanted.writes || other.letsWrite) &&
+           (!other.reads || wanted.letsRead) && (!other.writes || wanted.letsWrite);
+  };
+  return (!held || allows(*held)) &&
+         std::all_of(openings.begin(), openings.end(),
+                     [&](const Opening* opening) { return allows(*opening); });
+}
+
+bool DiskEntry::AllowsToGo() const {
+  return (!held || held->letsDelete) &&
+         std::all_of(openings.begin(), openings.end(),
+                     [](const Opening* opening) { return opening->letsDelete; });
+}
 
 std::string BytesOf(const DiskEntry& entry) {
   if (entry.hostPath.empty()) return entry.bytes;
@@ -102,7 +135,7 @@ void Disk::MountHostFile(const std::string& path, const std::string& hostPath) {
 }
 
 void Disk::Delete(const std::string& path) {
-  if (MustFind(path).IsInUse()) return Complain("a file in use cannot be deleted: " + path);
+  if (MustFind(path).IsOpen()) return Complain("a file in use cannot be deleted: " + path);
   Erase(path);
 }
 
@@ -138,16 +171,33 @@ int Disk::Attributes(const std::string& path) const {
 }
 
 void Disk::Hold(const std::string& path) {
-  MustFind(path).isHeld = true;
+  MustFind(path).held = Opening{.reads = true, .writes = true, .letsRead = true};
 }
 
 void Disk::HoldAlone(const std::string& path) {
-  MustFind(path).isHeldAlone = true;
+  MustFind(path).held = Opening{.reads = true, .writes = true};
+}
+
+void Disk::HoldShared(const std::string& path) {
+  MustFind(path).held = Opening{.reads = true, .writes = true, .letsRead = true, .letsWrite = true};
 }
 
 void Disk::Release(const std::string& path) {
-  DiskEntry& entry = MustFind(path);
-  entry.isHeld = entry.isHeldAlone = false;
+  MustFind(path).held.reset();
+}
+
+void Disk::ReleaseAfterWaits(const std::string& path, int waits) {
+  waitsLeft_[path] = waits;
+}
+
+void Disk::Waited() {
+  for (auto& [path, left] : waitsLeft_) {
+    if (--left == 0) Release(path);
+  }
+}
+
+void Disk::CloseAll() {
+  for (auto& [key, entry] : entries_) entry->openings.clear();
 }
 
 void Disk::RefuseNewFiles(const std::string& folder) {
@@ -163,8 +213,13 @@ void Disk::FailWrites(After after, RuntimeError::Number number) {
   writeFault_ = number;
 }
 
-void Disk::CountWrite(const std::string& path) {
-  if (writeFault_ && writesLeft_-- <= 0) throw RuntimeError(*writeFault_, path);
+Platform::SystemError Disk::CountWrite() {
+  if (!writeFault_ || writesLeft_-- > 0) return Platform::SystemError::None;
+  switch (*writeFault_) {
+    case RuntimeError::DiskFull: return Platform::SystemError::DiskFull;
+    case RuntimeError::PermissionDenied: return Platform::SystemError::AccessDenied;
+    default: return Platform::SystemError::DeviceFailed;
+  }
 }
 
 const DiskEntry* Disk::Find(const std::string& path) const {
@@ -184,6 +239,7 @@ DiskEntry& Disk::Make(const std::string& path) {
   if (!entry) {
     entry = std::make_shared<DiskEntry>();
     entry->path = path;
+    entry->made = ++made_;
     Written(*entry);
   }
   return *entry;
@@ -193,10 +249,38 @@ void Disk::Erase(const std::string& path) {
   entries_.erase(KeyOf(path));
 }
 
+void Disk::Move(const std::string& from, const std::string& to) {
+  const std::string start = KeyOf(from);
+  const std::string end = KeyOf(to);
+  std::vector<std::pair<std::string, std::shared_ptr<DiskEntry>>> moved;
+  for (auto entry = entries_.begin(); entry != entries_.end();) {
+    const auto& [key, file] = *entry;
+    if (key == start || key.starts_with(start + "\\")) {
+      moved.emplace_back(end + key.substr(start.size()), file);
+      file->path = to + file->path.substr(from.size());
+      entry = entries_.erase(entry);
+    } else {
+      ++entry;
+    }
+  }
+  for (auto& [key, file] : moved) entries_[key] = std::move(file);
+}
+
+std::vector<const DiskEntry*> Disk::Inside(const std::string& folder) const {
+  std::vector<const DiskEntry*> inside;
+  const std::string key = KeyOf(folder);
+  for (const auto& [place, entry] : entries_) {
+    if (Platform::FolderOf(place) == key) inside.push_back(entry.get());
+  }
+  std::sort(inside.begin(), inside.end(),
+            [](const DiskEntry* a, const DiskEntry* b) { return a->made < b->made; });
+  return inside;
+}
+
 std::vector<std::string> Disk::OpenFiles() const {
   std::vector<std::string> paths;
   for (const auto& [key, entry] : entries_) {
-    if (entry->readers > 0) paths.push_back(entry->path);
+    if (!entry->openings.empty()) paths.push_back(entry->path);
   }
   return paths;
 }

@@ -13,11 +13,21 @@
 
 #include "base/RuntimeError.h"
 #include "machine/simulated/Faults.h"
+#include "platform/SystemError.h"
 
 namespace Simulated {
 
 // Attributes of a file; their sum is what SetAttributes takes.
 enum Attribute { NoAttributes = 0, ReadOnly = 1, Hidden = 2, System = 4 };
+
+// A file that someone has open: what for, and what they let others do meanwhile.
+struct Opening {
+  bool reads = false;
+  bool writes = false;
+  bool letsRead = false;
+  bool letsWrite = false;
+  bool letsDelete = false;
+};
 
 // A file or folder of the disk.
 struct DiskEntry : std::enable_shared_from_this<DiskEntry> {
@@ -28,14 +38,17 @@ struct DiskEntry : std::enable_shared_from_this<DiskEntry> {
   std::string hostPath;  // where the bytes are read from instead, if not empty
   int attributes = NoAttributes;
   uint64_t lastWrite = 0;
-  int readers = 0;             // open readers of the program
-  bool isHeld = false;         // another program has it open: it cannot be written or deleted
-  bool isHeldAlone = false;    // another program has it for itself: it cannot even be read
-  bool refusesFiles = false;   // a folder in which no file can be made or deleted
-  bool refusesWrites = false;  // a file that the user has no right to write
+  std::vector<const Opening*> openings;  // by the program
+  std::optional<Opening> held;           // by another program
+  uint64_t made = 0;                     // grows from one that was made to the next
+  bool refusesFiles = false;             // a folder in which no file can be made or deleted
+  bool refusesWrites = false;            // a file that the user has no right to write
 
-  bool IsHeldByOthers() const { return isHeld || isHeldAlone; }
-  bool IsInUse() const { return readers > 0 || IsHeldByOthers(); }
+  bool IsOpen() const { return held || !openings.empty(); }
+  // True if those who have the file open let it be opened so as well.
+  bool Allows(const Opening& wanted) const;
+  // True if they let it be deleted or renamed.
+  bool AllowsToGo() const;
 };
 
 class Disk {
@@ -67,16 +80,26 @@ class Disk {
   void Hold(const std::string& path);
   // Another program opens a file for itself alone: it cannot be read either until Release.
   void HoldAlone(const std::string& path);
+  // Another program has a file open and lets others read and write it, but not delete or replace
+  // it, as the running game does.
+  void HoldShared(const std::string& path);
   void Release(const std::string& path);
+  // Lets go of a held file once the program has waited for it that many times.
+  void ReleaseAfterWaits(const std::string& path, int waits);
 
   // The user may not make or delete files in the folder; those that are there can be rewritten.
   void RefuseNewFiles(const std::string& folder);
   // The user may read the file, but not write it.
   void RefuseWrites(const std::string& path);
 
-  // The first writes succeed, all later ones fail: whole files, appended bytes, each piece that a
-  // FileWriter is given, and its Finish.
+  // The first writes succeed, all later ones fail: whatever is written by one call of the program,
+  // and each flush, since only then it is known that the disk has taken it.
   void FailWrites(After after, RuntimeError::Number number);
+
+  // Where the program keeps temporary files.
+  static constexpr const char* TemporaryFolder = "C:\\Windows\\Temp";
+  // Makes it a machine that has no such folder.
+  void HaveNoTemporaryFolder() { hasTemporaryFolder_ = false; }
 
   // The most bytes that one call of FileReader::Read gives.
   void LimitReads(size_t bytes) { largestRead_ = bytes; }
@@ -88,8 +111,17 @@ class Disk {
   DiskEntry& Make(const std::string& path);
   void Erase(const std::string& path);
   void Written(DiskEntry& entry) { entry.lastWrite = ++writes_; }
-  // Counts a write; fails with the number that FailWrites asked for when its turn has come.
-  void CountWrite(const std::string& path);
+  // Counts a write; gives the error that FailWrites asked for when its turn has come.
+  Platform::SystemError CountWrite();
+  bool HasTemporaryFolder() const { return hasTemporaryFolder_; }
+  // Gives a file or folder another path; what stood there is gone.
+  void Move(const std::string& from, const std::string& to);
+  // What is in a folder, in the order in which it was made.
+  std::vector<const DiskEntry*> Inside(const std::string& folder) const;
+  // The program has waited: another one may let go of a file meanwhile.
+  void Waited();
+  // The program has ended: whatever it had open is closed.
+  void CloseAll();
   size_t LargestRead() const { return largestRead_; }
   // The paths of the files that the program has open.
   std::vector<std::string> OpenFiles() const;
@@ -99,9 +131,12 @@ class Disk {
 
   std::map<std::string, std::shared_ptr<DiskEntry>> entries_;  // by path in lower case
   uint64_t writes_ = 0;
+  uint64_t made_ = 0;
   size_t largestRead_ = SIZE_MAX;
   int writesLeft_ = 0;
   std::optional<RuntimeError::Number> writeFault_;
+  bool hasTemporaryFolder_ = true;
+  std::map<std::string, int> waitsLeft_;  // until another program lets go, by path
 };
 
 // The bytes of a file, wherever they lie, and how many there are.

@@ -14,4 +14,21 @@ bool Faults::Strikes(const std::string& call) {
   return true;
 }
 
+void Faults::RefuseFileCallsFrom(After after, Platform::SystemError error) {
+  fileCallsLeft_ = after.calls;
+  // To a program that has been ended no answer matters; this one it does not wait and ask again
+  // for.
+  refusal_ = error == Platform::SystemError::None ? Platform::SystemError::DeviceFailed : error;
+}
+
+std::optional<Platform::SystemError> Faults::RefusalOf(const std::string& fileCall,
+                                                       Platform::SystemError usual) {
+  if (fileCallsLeft_ && (*fileCallsLeft_ <= 0 || (*fileCallsLeft_)-- <= 0)) {
+    if (endedAt_.empty()) endedAt_ = fileCall;
+    return refusal_;
+  }
+  if (Strikes(fileCall)) return usual;
+  return std::nullopt;
+}
+
 }  // namespace Simulated

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/SystemError.h"
+
 namespace Simulated {
 
 // How many calls go well before the first one fails.
@@ -23,12 +25,27 @@ class Faults {
   // The call that failed, such as "ReadWholeFile C:\a.txt"; empty if none did.
   const std::string& FailedCall() const { return failedCall_; }
 
+  // The program is ended at a file call, the one after the given number of them: neither it nor any
+  // later one does anything, until Machine::StartAnew.
+  void EndProgramAtFileCall(After after) { RefuseFileCallsFrom(after, {}); }
+  // From such a call on every file call is refused with that error.
+  void RefuseFileCallsFrom(After after, Platform::SystemError error);
+  // The call at which that was; empty if it has not come.
+  const std::string& EndedAt() const { return endedAt_; }
+
   // For the services: counts a call that can fail. True if it must fail now.
   bool Strikes(const std::string& call);
+  // The error with which a file call must end without having happened; nothing if it may go on.
+  //   usual  what such a call fails with on a bad day.
+  std::optional<Platform::SystemError> RefusalOf(const std::string& fileCall,
+                                                 Platform::SystemError usual);
 
  private:
   std::optional<int> callsLeft_;
   std::string failedCall_;
+  std::optional<int> fileCallsLeft_;
+  Platform::SystemError refusal_{};
+  std::string endedAt_;
 };
 
 }  // namespace Simulated

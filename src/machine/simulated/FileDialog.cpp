@@ -47,8 +47,10 @@ std::string FileDialog::Show() const {
   Simulated::Machine& machine = Simulated::TheMachine();
   Simulated::Script& script = machine.user.script();
   const BoxOverStage box;
-  if (machine.faults.Strikes("FileDialog::Show " + title))
-    throw RuntimeError(RuntimeError::DeviceError);
+  if (machine.faults.Strikes("FileDialog::Show " + title)) {
+    throw RuntimeError(RuntimeError::DeviceError, "",
+                       {RuntimeErrorTexts.ShowingFileDialog, 0xFFFF});
+  }
   script.fileDialogs.push_back({kind_, title, fileType, pattern, defaultExtension, initialFolder});
   if (title.empty()) Simulated::Complain("a file dialog without a title");
   const Form* owner = ActiveForm();

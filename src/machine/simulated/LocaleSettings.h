@@ -9,7 +9,8 @@ struct LocaleSettings {
   std::string decimal = ".";
   std::string thousands = ",";
   std::string currency = "$";
-  // Windows' Western one, or 932, 936, 949 or 950, in which a character may take two bytes.
+  // Windows' Western one; 932, 936, 949 or 950, in which a character may take two bytes; or 65001,
+  // UTF-8.
   int codePage = 1252;
 
   void SetSeparators(const std::string& newDecimal, const std::string& newThousands) {
@@ -17,7 +18,7 @@ struct LocaleSettings {
     thousands = newThousands;
   }
 
-  // True if the byte is the first of two in the code page.
+  // True if the byte is the first of two in a code page of two bytes a character.
   bool IsLeadByte(char byte) const {
     const auto value = static_cast<unsigned char>(byte);
     switch (codePage) {

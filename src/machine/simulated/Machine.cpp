@@ -23,6 +23,7 @@ Machine::Machine() {
   theMachine = this;
   files.PutFolder("C:");
   files.PutFolder(executable.folder);
+  files.PutFolder(Disk::TemporaryFolder);
 }
 
 Machine::~Machine() {
@@ -31,6 +32,12 @@ Machine::~Machine() {
   if (!sound.Playing().empty()) Complain("the program left a sound playing");
   user.ComplainAboutUnusedSteps();
   theMachine = nullptr;
+}
+
+void Machine::StartAnew() {
+  RunObjects::End();
+  files.CloseAll();
+  faults = {};
 }
 
 }  // namespace Simulated

@@ -27,6 +27,10 @@ class Machine {
   Machine(const Machine&) = delete;
   Machine& operator=(const Machine&) = delete;
 
+  // The program has ended, however that was, and is to be started again: what it had open is
+  // closed, its objects are gone, and no fault is left.
+  void StartAnew();
+
   // See Faults.
   void FailAnyCall(After after) { faults.FailAnyCall(after); }
   bool FailureHappened() const { return faults.HasHappened(); }

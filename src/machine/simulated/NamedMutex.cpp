@@ -11,7 +11,7 @@ void HoldNamedMutex(const std::string& name) {
   // A backslash stands between the parts of a name in the system's name space, which has none.
   const bool isRefused = name.find('\\') != std::string::npos;
   if (machine.faults.Strikes("HoldNamedMutex " + name) || isRefused) {
-    throw RuntimeError(RuntimeError::DeviceError);
+    throw RuntimeError(RuntimeError::DeviceError, "", {RuntimeErrorTexts.MakingMutex, 6});
   }
   machine.mutexes.Hold(name);
   RunObjects::OnEnd([name] { Simulated::TheMachine().mutexes.Release(name); });

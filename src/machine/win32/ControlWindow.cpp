@@ -4,7 +4,8 @@
 #include <array>
 #include <new>
 
-#include "base/RuntimeError.h"
+#include "base/RuntimeErrorTexts.h"
+#include "machine/win32/Failure.h"
 #include "machine/win32/UserInput.h"
 #include "ui/Forms.h"
 
@@ -46,7 +47,7 @@ HWND MakeChild(HWND parent, const Class& type, DWORD style, WORD id) {
   const HWND window = CreateWindowExA(
       type.exStyle, type.name, "", WS_CHILD | type.style | style, 0, 0, 0, 0, parent,
       reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
-  if (!window) throw RuntimeError(RuntimeError::DeviceError);
+  if (!window) FailAt(RuntimeErrorTexts.MakingWindow);
   return window;
 }
 

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
-#include "base/RuntimeError.h"
+#include "base/RuntimeErrorTexts.h"
+#include "machine/win32/Failure.h"
 
 namespace Platform::Display {
 
@@ -54,7 +55,7 @@ Font::Font(UINT dpi) {
   const LOGFONTW description = MessageFont(dpi);
   handle_.reset(CreateFontIndirectW(&description));
   context_.reset(CreateCompatibleDC(nullptr));
-  if (!handle_ || !context_) throw RuntimeError(RuntimeError::DeviceError);
+  if (!handle_ || !context_) FailAt(RuntimeErrorTexts.MeasuringTexts);
   previous_ = SelectObject(context_.get(), handle_.get());
 
   // The dialog manager's own way to the mean width.

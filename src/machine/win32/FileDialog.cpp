@@ -1,5 +1,6 @@
 #include "ui/FileDialog.h"
 
+#include "machine/win32/Failure.h"
 #include "machine/win32/System.h"
 
 #include <commdlg.h>
@@ -8,7 +9,7 @@
 #include <optional>
 #include <utility>
 
-#include "base/RuntimeError.h"
+#include "base/RuntimeErrorTexts.h"
 #include "machine/win32/CodePage.h"
 #include "machine/win32/FormWindow.h"
 #include "platform/Paths.h"
@@ -107,7 +108,7 @@ std::string FileDialog::Show() const {
   // A folder that the system cannot show, such as one that may not be read, is no reason to go
   // without the dialog.
   if (!chosen) chosen = Ask(*this, "");
-  if (!chosen) throw RuntimeError(RuntimeError::DeviceError);
+  if (!chosen) FailAt(RuntimeErrorTexts.ShowingFileDialog, CommDlgExtendedError());
   // What the code page cannot hold has become "?", so that no other file is meant.
   CheckName(*chosen);
   return *std::move(chosen);

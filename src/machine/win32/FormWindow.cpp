@@ -6,8 +6,9 @@
 #include <map>
 #include <utility>
 
-#include "base/RuntimeError.h"
+#include "base/RuntimeErrorTexts.h"
 #include "machine/win32/DialogTemplate.h"
+#include "machine/win32/Failure.h"
 #include "machine/win32/MessageLoop.h"
 #include "machine/win32/UserInput.h"
 #include "ui/Forms.h"
@@ -78,7 +79,7 @@ FormView::Native::Native(Form& form) : form_(form) {
   } else {
     MakeWindow();
   }
-  if (!window_) throw RuntimeError(RuntimeError::DeviceError);
+  if (!window_) FailAt(RuntimeErrorTexts.MakingWindow);
   try {
     Windows()[window_] = this;
     SendMessageA(window_, WM_SETICON, ICON_BIG,

@@ -1,6 +1,7 @@
 #include "machine/win32/MenuBar.h"
 
-#include "base/RuntimeError.h"
+#include "base/RuntimeErrorTexts.h"
+#include "machine/win32/Failure.h"
 
 namespace Platform {
 
@@ -15,7 +16,7 @@ MenuBar::MenuBar(const std::vector<MenuItem*>& menus) {
 
 MenuBar::OwnedMenu MenuBar::MakeMenu(const std::vector<MenuItem*>& items, bool isBar) {
   OwnedMenu menu(isBar ? CreateMenu() : CreatePopupMenu());
-  if (!menu) throw RuntimeError(RuntimeError::DeviceError);
+  if (!menu) FailAt(RuntimeErrorTexts.MakingMenu);
   for (MenuItem* item : items) Append(menu.get(), *item);
   return menu;
 }
@@ -33,16 +34,14 @@ void MenuBar::Append(HMENU menu, MenuItem& item) {
     flags |= MF_POPUP;
     id = reinterpret_cast<UINT_PTR>(items.get());
   }
-  if (!AppendMenuA(menu, flags, id, item.caption().c_str())) {
-    throw RuntimeError(RuntimeError::DeviceError);
-  }
+  if (!AppendMenuA(menu, flags, id, item.caption().c_str())) FailAt(RuntimeErrorTexts.MakingMenu);
   static_cast<void>(items.release());  // goes with the menu that it is in now
 }
 
 void MenuBar::PutOn(HWND window) {
   const HMENU previous = GetMenu(window);
   if (!previous && !bar_) return;
-  if (!SetMenu(window, bar_.get())) throw RuntimeError(RuntimeError::DeviceError);
+  if (!SetMenu(window, bar_.get())) FailAt(RuntimeErrorTexts.MakingMenu);
   static_cast<void>(bar_.release());  // goes with the window
   if (previous) DestroyMenu(previous);
   DrawMenuBar(window);
