@@ -9,6 +9,12 @@ void OpenTrackEditor(Pack& pack) {
   pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
 }
 
+void OpenVehicleEditor(Pack& pack) {
+  pack.ChooseMenu({"Vehicle", "New"});
+  pack.ChooseFile("keyboard");
+  pack.WaitForWindow("Create Vehicle");
+}
+
 void WaitForMainWindow(Pack& pack) {
   pack.WaitForMain();
 }
@@ -38,6 +44,18 @@ std::vector<Opening> Openings() {
        },
        [](Pack& pack) {
          pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
+         pack.Press("Escape");
+         pack.WaitForMain();
+       }},
+      {"NewCar", "Create Vehicle", OpenVehicleEditor, WaitForMainWindow},
+      {"InternalCars", "Select Internal Sound:",
+       [](Pack& pack) {
+         OpenVehicleEditor(pack);
+         pack.Press("Alt+S");
+         pack.AnswerBox("Y");
+       },
+       [](Pack& pack) {
+         pack.WaitForWindow("Create Vehicle");
          pack.Press("Escape");
          pack.WaitForMain();
        }},

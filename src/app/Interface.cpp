@@ -12,9 +12,13 @@
 #include "tracks/Trackmaker.h"
 #include "ui/Messages.h"
 #include "vehicles/CarManager.h"
+#include "vehicles/NewCar.h"
 
 namespace Interface {
 
+void NewVehicle() {
+  ::NewVehicle();
+}
 void CheckVehicle() {
   CarManager::CheckVehicleMenu();
 }

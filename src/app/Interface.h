@@ -4,6 +4,7 @@
 
 namespace Interface {
 
+void NewVehicle();
 void CheckVehicle();
 
 void NewTrack();

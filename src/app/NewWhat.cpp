@@ -6,5 +6,5 @@
 NewWhat::NewWhat()
     : Chooser(
           AppTexts.NewWhatTitle, AppTexts.NewWhatPrompt,
-          {{AppTexts.Vehicle, Interface::TellNotAvailable}, {AppTexts.Track, Interface::NewTrack}},
+          {{AppTexts.Vehicle, Interface::NewVehicle}, {AppTexts.Track, Interface::NewTrack}},
           MainWindow::StaysHidden) {}

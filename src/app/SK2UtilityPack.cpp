@@ -67,6 +67,7 @@ SK2UtilityPack::SK2UtilityPack()
   OnLoad = [this] { Form_Load(); };
   OnKeyDown = [this](Platform::KeyEvent& key) { Form_KeyDown(key); };
   FClose.OnClick = [this] { Unload(); };
+  VNew.OnClick = Interface::NewVehicle;
   VCheck.OnClick = Interface::CheckVehicle;
   TNew.OnClick = Interface::NewTrack;
   TRandom.OnClick = Interface::RandomTrack;

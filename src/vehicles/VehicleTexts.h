@@ -129,6 +129,8 @@ struct VehicleTextTable {
   LangText WipersQuestionText{"WipersQuestionText",
                               "Do you want your car to have windscreen wipers?"};
   LangText WipersQuestionTitle{"WipersQuestionTitle", "Wipers"};
+  LangText VehicleNoValuesText{"VehicleNoValuesText",
+                               "No value has been set yet. The file was not saved."};
   LangText VehicleFileSavedText{"VehicleFileSavedText", "Vehicle file saved!"};
   LangText VehicleFileSavedTitle{"VehicleFileSavedTitle", "Congratulations!"};
 
