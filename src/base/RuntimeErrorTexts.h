@@ -6,7 +6,7 @@
 struct RuntimeErrorTextTable {
   LangText InvalidCall{"RTEInvalidCall", "An invalid value was met."};
   LangText Overflow{"RTEOverflow", "The number is too large."};
-  LangText OutOfMemory{"RTEOutOfMemory", "There is not enough memory, or a line is too long."};
+  LangText OutOfMemory{"RTEOutOfMemory", "There is not enough memory."};
   LangText TypeMismatch{"RTETypeMismatch", "A number was expected."};
   LangText FileNotFound{"RTEFileNotFound", "The file was not found."};
   LangText DeviceError{"RTEDeviceError", "The device reported an error."};

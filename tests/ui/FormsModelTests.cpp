@@ -53,7 +53,7 @@ TEST_F(FormsModel, AFailureWithoutAFileIsToldByItsCauseAlone) {
 TEST_F(FormsModel, MemoryThatRunsOutIsTold) {
   Dispatch([] { throw std::bad_alloc(); });
   EXPECT_THAT(user.LastBox(),
-              Shows(Icon::Critical, "There is not enough memory, or a line is too long."));
+              Shows(Icon::Critical, "There is not enough memory."));
 }
 
 TEST_F(FormsModel, AnyOtherFailureIsToldAsUnexpected) {
@@ -80,7 +80,7 @@ TEST_F(FormsModel, AMainWindowThatCannotComeBackIsTold) {
     machine.screen.refusesWindows = true;
   });
   EXPECT_THAT(user.LastBox(),
-              Shows(Icon::Critical, "There is not enough memory, or a line is too long."));
+              Shows(Icon::Critical, "There is not enough memory."));
   EXPECT_THAT(Screen(), ElementsAre("Tool")) << "the user can still work";
 }
 
