@@ -202,6 +202,40 @@ TEST_F(WindowTest, AListScrollsTellsOfItsSelectionAndIsNotSorted) {
   EXPECT_EQ(SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0), 0);
 }
 
+TEST_F(WindowTest, AListCanBeScrolledToTheEndOfItsWidestRow) {
+  tool.Show();
+  const HWND list = FindWindowExA(WindowOf(tool), nullptr, "ListBox", nullptr);
+  const HDC context = GetDC(list);
+  const auto font = reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0));
+  const HGDIOBJ previous = SelectObject(context, font);
+  for (const std::string row : {"Hairpin Right on Gravel (5000 units), \"AV\" ~ @", "H\xFCgel"}) {
+    SIZE size{};
+    GetTextExtentPoint32A(context, row.c_str(), static_cast<int>(row.size()), &size);
+    tool.Servers.SetRows({"i", row, ""}, 0);
+    EXPECT_EQ(SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0),
+              size.cx + GetSystemMetrics(SM_CXEDGE) * 2)
+        << row;
+  }
+  SelectObject(context, previous);
+  ReleaseDC(list, context);
+}
+
+TEST_F(WindowTest, AHiddenListStaysHiddenWhateverBecomesOfItsRows) {
+  tool.Show();
+  const HWND list = FindWindowExA(WindowOf(tool), nullptr, "ListBox", nullptr);
+  tool.Servers.Add("hill");
+  tool.Servers.SetVisible(false);
+  tool.Servers.Add("lake");
+  tool.Servers.SetRows({"moor", "fell", "tarn"}, 1);
+  tool.Servers.Remove(2);
+  RealMachine::Pump();
+  EXPECT_FALSE(IsWindowVisible(list));
+  tool.Servers.SetVisible(true);
+  EXPECT_TRUE(IsWindowVisible(list));
+  tool.Servers.Focus();
+  EXPECT_EQ(TestMachine::Hears(), "Servers, list, fell, 2 of 2, Alt+S");
+}
+
 TEST_F(WindowTest, ThereIsAlwaysOneDefaultButton) {
   tool.Show();
   for (int i = 0; i < 8; ++i) {
