@@ -14,8 +14,8 @@ inline constexpr uint32_t InternalSoundsChecksum = 0xE4248545;
 // The CRC-32 of bytes that follow others, whose CRC-32 is given.
 inline uint32_t Crc32(const std::string& bytes, uint32_t before = 0) {
   uint32_t sum = ~before;
-  for (const char byte : bytes) {
-    sum ^= static_cast<unsigned char>(byte);
+  for (const char each : bytes) {
+    sum ^= static_cast<unsigned char>(each);
     for (int bit = 0; bit < 8; ++bit) sum = (sum & 1) != 0 ? sum >> 1 ^ 0xEDB88320u : sum >> 1;
   }
   return ~sum;
