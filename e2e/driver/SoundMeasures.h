@@ -1,6 +1,7 @@
 // Measuring sounds: what is heard in them, by numbers.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 namespace E2e {
