@@ -9,7 +9,7 @@ exec </dev/null
 . scripts/machine.sh
 . scripts/suites.sh
 
-trap 'end_background; leave_machine' EXIT
+trap end_background EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
@@ -33,21 +33,53 @@ lint_suites() {
     nice -n 19 cmake --build --preset windows --target check-tidy
 }
 
+# The tests on the real machine mostly wait for windows, so that two machines, each with its own
+# keyboard and screen, run them in half the time.
+machines=2
+
+# In a shell of its own, which turns the first machine off again.
+prepare_machines() (
+  trap leave_machine EXIT
+  trap 'exit 130' INT
+  trap 'exit 143' TERM
+  enter_machine out/e2e/machine-1 && start_display && start_windows || exit 1
+  for number in $(seq 2 "$machines"); do
+    copy_windows "out/e2e/machine-$number" || exit 1
+  done
+)
+
 bring_up_machine() {
-  enter_machine out/e2e && start_display && start_sound && record_speakers && start_web &&
+  enter_machine "out/e2e/machine-$1" && start_display && start_sound && record_speakers &&
+    start_web &&
     start_windows && use_virtual_desktop && use_own_web
 }
 
-# The tests on the real machine mostly wait for windows; this takes what they leave of the processors.
+# machine_suites NUMBER: what one machine has to run. In the background, where it has a shell of its
+# own, so that it also ends what it has started.
+machine_suites() {
+  trap leave_machine EXIT
+  trap 'exit 143' TERM
+  if ! bring_up_machine "$1"; then
+    count "the machine to run the program on" 0 1
+    return
+  fi
+  gtest_share "contracts on the real machine" "$1" "$machines" \
+    wine out/windows/tests/contract-tests.exe "--speakers=out/e2e/machine-$1/speakers.raw"
+  gtest_share "the shipped program" "$1" "$machines" \
+    wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack --versions=out/windows/versions \
+    --demo=demo --pictures=out/e2e/pictures "--speakers=out/e2e/machine-$1/speakers.raw"
+  if [ "$1" = 1 ]; then
+    check_suite bench-start wine out/windows/bench/start/bench-start.exe --brief \
+      --pack=out/windows/pack --bare=out/windows/bench/start/barewindow.exe
+    check_suite bench-lists wine out/windows/bench/lists/bench-lists.exe --brief
+  fi
+}
+
+# On what the machines leave of the processors.
 in_background lint_suites
-if bring_up_machine; then
-  gtest_suite "contracts on the real machine" wine out/windows/tests/contract-tests.exe \
-    --speakers=out/e2e/speakers.raw
-  check_suite bench-lists wine out/windows/bench/lists/bench-lists.exe --brief
+if prepare_machines; then
   rm -rf out/e2e/pictures
-  gtest_suite "the shipped program" wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack \
-    --versions=out/windows/versions --demo=demo --pictures=out/e2e/pictures \
-    --speakers=out/e2e/speakers.raw
+  for number in $(seq "$machines"); do in_background machine_suites "$number"; done
 else
   count "the machine to run the program on" 0 1
 fi

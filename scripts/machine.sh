@@ -139,8 +139,10 @@ http {
   }
 }
 END
+    rm -f "$machine_folder/nginx/nginx.pid"
     start web nginx -p "$machine_folder/nginx" -c "$machine_folder/nginx/nginx.conf" -g 'daemon off;'
-    if wait_until "the web server" eval "! is_port_free $port"; then
+    # Written once the port is its own: another machine's server may have come first.
+    if wait_until "the web server" test -s "$machine_folder/nginx/nginx.pid"; then
       web_port=$port
       return 0
     fi
@@ -158,6 +160,17 @@ start_windows() {
     # Debian's Wine does not find the fonts of Windows' own controls by itself.
     cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/" || return 1
     touch "$machine_folder/prefix-is-made"
+  fi
+}
+
+# copy_windows FOLDER: gives the machine of that folder a copy of this one's Wine prefix if it has none
+# yet, which is faster than making one. Nothing may run on either.
+copy_windows() {
+  if [ ! -e "$1/prefix-is-made" ]; then
+    rm -rf "$1/prefix"
+    mkdir -p "$1"
+    cp -a "$WINEPREFIX" "$1/prefix" || return 1
+    touch "$1/prefix-is-made"
   fi
 }
 

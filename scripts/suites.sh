@@ -31,16 +31,17 @@ wait_for_background() {
   background=()
 }
 
-# Ends the suites in the background, with all that they have started.
+# Ends the suites in the background, with all that they have started, and waits until they have ended.
 end_background() {
   local process
   for process in "${background[@]}"; do kill -- "-$process" 2>/dev/null || true; done
+  for process in "${background[@]}"; do wait "$process" 2>/dev/null || true; done
   background=()
 }
 
 log_of() {
   mkdir -p out/logs
-  echo "out/logs/$(echo "$1" | tr -c 'a-zA-Z0-9\n' '-').log"
+  echo "out/logs/$(echo "$1" | tr -cs 'a-zA-Z0-9\n' '-').log"
 }
 
 # check_suite NAME COMMAND...: one test, which passes if the command succeeds.
@@ -80,14 +81,26 @@ build_suite() {
 # without a failed test, counts as a failure of its own. A test that this machine cannot run says so
 # by skipping itself, and is named.
 gtest_suite() {
-  local name=$1 log report status=0 all=0 bad=0 left_out=0 passes
-  shift
+  gtest_run "$1" "$1" "${@:2}"
+}
+
+# gtest_share NAME NUMBER COUNT COMMAND...: the same for one of COUNT shares of the program's tests,
+# numbered from 1. The shares may run side by side; each is counted, and the sum is told.
+gtest_share() {
+  GTEST_TOTAL_SHARDS=$3 GTEST_SHARD_INDEX=$(($2 - 1)) gtest_run "$1" "$1, $2 of $3" "${@:4}"
+}
+
+# gtest_run SUITE NAME COMMAND...: what is told while it runs, and its log, bear the name; it is
+# counted in the suite.
+gtest_run() {
+  local suite=$1 name=$2 log report status=0 all=0 bad=0 left_out=0 passes
+  shift 2
   log=$(log_of "$name")
   report=${log%.log}.xml
   rm -f "$report"
   echo "Running $name"
   # Much longer than any takes: a program that hangs is a failure, not the end of all tests.
-  # In the foreground, so that Ctrl+C reaches it.
+  # In the foreground, so that Ctrl+C, or the end of the background, reaches it.
   timeout --foreground 900 "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
   if [ -s "$report" ]; then
     all=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$report")
@@ -103,7 +116,7 @@ gtest_suite() {
     echo "All of its output is in $log"
   fi
   passes=$((all - bad - left_out))
-  count "$name" $((passes > 0 ? passes : 0)) "$bad" "$left_out"
+  count "$suite" $((passes > 0 ? passes : 0)) "$bad" "$left_out"
 }
 
 # programs_in FOLDER PATTERN: puts the programs there into the array programs. None is a failure.
@@ -134,17 +147,24 @@ bench_suites() {
   for program in "${programs[@]}"; do check_suite "$(basename "$program")" "$program" --brief; done
 }
 
-# Prints all counts once every suite has ended, and last their sum. Fails if any test did.
+# Prints the counts once every suite has ended, those of a suite's shares as one, and last the sum of
+# all. Fails if any test did.
 report_suites() {
   wait_for_background
   echo
   awk -v seconds="$SECONDS" '
     {
-      passed += $1; failed += $2; skipped += $3
       name = $0; sub(/^[0-9]+ [0-9]+ [0-9]+ /, "", name)
-      printf "%6d passed %4d failed %4d skipped  %s\n", $1, $2, $3, name
+      if (!(name in suite)) names[++suites] = name
+      suite[name]
+      passes[name] += $1; failures[name] += $2; skips[name] += $3
+      passed += $1; failed += $2; skipped += $3
     }
     END {
+      for (i = 1; i <= suites; i++) {
+        name = names[i]
+        printf "%6d passed %4d failed %4d skipped  %s\n", passes[name], failures[name], skips[name], name
+      }
       printf "\n%d passed, %d failed, %d skipped, in %d min %02d s\n", passed, failed, skipped,
         seconds / 60, seconds % 60
       exit failed > 0 || passed == 0

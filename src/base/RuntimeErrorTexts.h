@@ -19,6 +19,7 @@ struct RuntimeErrorTextTable {
   LangText NameNotUsable{"RTENameNotUsable",
                          "The file name is too long or holds characters that cannot be used."};
   LangText FileAlreadyExists{"RTEFileAlreadyExists", "There is a file of that name already."};
+  LangText SystemLibrary{"RTESystemLibrary", "A part of Windows could not be loaded."};
   LangText Unexpected{"RTEUnexpected", "An unexpected error occurred."};
   LangText SaveHalfDone{
       "RTESaveHalfDone",

@@ -25,6 +25,7 @@ struct ProgramVersion {
 
 // The version resource of the running executable: the first three of its four version numbers and
 // two of its texts. Zeros and empty texts if the executable has none.
+// Fails with RuntimeError DeviceError if the system lacks its reader of such resources.
 ProgramVersion ReadProgramVersion();
 
 }  // namespace Platform

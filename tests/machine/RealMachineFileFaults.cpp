@@ -3,6 +3,8 @@
 #include <cstring>
 #include <vector>
 
+#include "tests/machine/RealMachineImports.h"
+
 namespace RealMachine {
 
 namespace {
@@ -102,46 +104,27 @@ const std::vector<Replacement>& Replacements() {
 }
 #undef SK2_REPLACING
 
-// Puts functions into the program's table of imports in place of those of a name.
-void Exchange(bool installs) {
-  auto* const base = reinterpret_cast<BYTE*>(GetModuleHandleA(nullptr));
-  const auto& header = *reinterpret_cast<IMAGE_NT_HEADERS*>(
-      base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
-  const auto& directory = header.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-  auto* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + directory.VirtualAddress);
-  for (; library->Name; ++library) {
-    const auto* names = reinterpret_cast<IMAGE_THUNK_DATA*>(base + library->OriginalFirstThunk);
-    auto* functions = reinterpret_cast<IMAGE_THUNK_DATA*>(base + library->FirstThunk);
-    for (; names->u1.AddressOfData; ++names, ++functions) {
-      if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal)) continue;
-      const char* name = reinterpret_cast<char*>(
-          reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData)->Name);
-      for (const Replacement& replacement : Replacements()) {
-        if (std::strcmp(name, replacement.name) != 0) continue;
-        auto** const place = reinterpret_cast<void**>(&functions->u1.Function);
-        DWORD protection = 0;
-        VirtualProtect(place, sizeof *place, PAGE_READWRITE, &protection);
-        if (installs) {
-          *replacement.original = *place;
-          *place = replacement.function;
-        } else {
-          *place = *replacement.original;
-        }
-        VirtualProtect(place, sizeof *place, protection, &protection);
-      }
-    }
+void Install() {
+  for (const Replacement& replacement : Replacements()) {
+    *replacement.original = ReplaceImport(replacement.name, replacement.function);
+  }
+}
+
+void Remove() {
+  for (const Replacement& replacement : Replacements()) {
+    ReplaceImport(replacement.name, *replacement.original);
   }
 }
 
 }  // namespace
 
 FileFaults::FileFaults(What what, int calls, DWORD error) {
-  Exchange(true);
+  Install();
   ThePlan() = {what, calls, error, ""};
 }
 
 FileFaults::~FileFaults() {
-  Exchange(false);
+  Remove();
 }
 
 const std::string& FileFaults::refused() const {

@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "e2e/driver/Wait.h"
+#include "tests/machine/RealMachineImports.h"
 #include "tests/machine/TestMachine.h"
 
 namespace {
@@ -203,20 +204,36 @@ class WatchedDevice final : public IDirectSound8 {
   const int number_;
 };
 
-}  // namespace
+decltype(&GetProcAddress) findFunction = &GetProcAddress;
+decltype(&DirectSoundCreate8) createDevice = nullptr;
 
-// In place of the one in the system's library, which it calls: the program is linked with this.
-extern "C" HRESULT WINAPI DirectSoundCreate8(const GUID* which, IDirectSound8** made,
-                                             IUnknown* outer) {
+HRESULT WINAPI CreateWatchedDevice(const GUID* which, IDirectSound8** made, IUnknown* outer) {
   *made = nullptr;
   if (TheWatch().isUnplugged) return DSERR_NODRIVER;
-  static const auto create = reinterpret_cast<decltype(&DirectSoundCreate8)>(
-      reinterpret_cast<void*>(GetProcAddress(LoadLibraryA("dsound.dll"), "DirectSoundCreate8")));
   IDirectSound8* device = nullptr;
-  const HRESULT result = create(which, &device, outer);
+  const HRESULT result = createDevice(which, &device, outer);
   if (SUCCEEDED(result)) *made = new WatchedDevice(device);
   return result;
 }
+
+// The program finds the function that makes devices by its name, and gets this one.
+FARPROC WINAPI FindFunction(HMODULE library, LPCSTR name) {
+  const FARPROC found = findFunction(library, name);
+  const bool isByName = reinterpret_cast<ULONG_PTR>(name) > 0xFFFF;
+  if (!found || !isByName || std::strcmp(name, "DirectSoundCreate8") != 0) return found;
+  createDevice = reinterpret_cast<decltype(createDevice)>(reinterpret_cast<void*>(found));
+  return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&CreateWatchedDevice));
+}
+
+// Before the program looks for it the first time, and for good.
+[[maybe_unused]] const bool isWatching = [] {
+  void* const system =
+      RealMachine::ReplaceImport("GetProcAddress", reinterpret_cast<void*>(&FindFunction));
+  findFunction = reinterpret_cast<decltype(findFunction)>(system);
+  return true;
+}();
+
+}  // namespace
 
 namespace TestMachine {
 

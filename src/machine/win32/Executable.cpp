@@ -4,11 +4,14 @@
 
 #include "machine/win32/CodePage.h"
 #include "machine/win32/System.h"
+#include "machine/win32/SystemLibrary.h"
 #include "platform/Paths.h"
 
 namespace Platform {
 
 namespace {
+
+SystemFunction<decltype(::VerQueryValueW)> VerQueryValueW("version.dll", "VerQueryValueW");
 
 constexpr WORD VersionType = 16;  // RT_VERSION
 

@@ -12,12 +12,18 @@
 #include "base/RuntimeErrorTexts.h"
 #include "machine/win32/CodePage.h"
 #include "machine/win32/FormWindow.h"
+#include "machine/win32/SystemLibrary.h"
 #include "platform/Paths.h"
 #include "ui/Stage.h"
 
 namespace Platform {
 
 namespace {
+
+SystemFunction<decltype(::GetOpenFileNameW)> GetOpenFileNameW("comdlg32.dll", "GetOpenFileNameW");
+SystemFunction<decltype(::GetSaveFileNameW)> GetSaveFileNameW("comdlg32.dll", "GetSaveFileNameW");
+SystemFunction<decltype(::CommDlgExtendedError)> CommDlgExtendedError("comdlg32.dll",
+                                                                      "CommDlgExtendedError");
 
 // Far longer than any path, so that a choice always fits.
 constexpr size_t ResultSize = 32768;

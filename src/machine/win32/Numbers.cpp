@@ -7,8 +7,15 @@
 #include <limits>
 
 #include "machine/win32/CodePage.h"
+#include "machine/win32/SystemLibrary.h"
 
 namespace Platform {
+
+namespace {
+
+SystemFunction<decltype(::VarR8FromStr)> VarR8FromStr("oleaut32.dll", "VarR8FromStr");
+
+}  // namespace
 
 std::optional<double> ParseLocaleNumber(std::string_view text) {
   // The system's parser ends at a NUL and would take the digits before it for the whole.

@@ -6,9 +6,18 @@
 #include <shellapi.h>
 
 #include "machine/win32/FormWindow.h"
+#include "machine/win32/SystemLibrary.h"
 #include "platform/LongStep.h"
 
 namespace Platform {
+
+namespace {
+
+SystemFunction<decltype(::CoInitializeEx)> CoInitializeEx("ole32.dll", "CoInitializeEx");
+SystemFunction<decltype(::CoUninitialize)> CoUninitialize("ole32.dll", "CoUninitialize");
+SystemFunction<decltype(::ShellExecuteExA)> ShellExecuteExA("shell32.dll", "ShellExecuteExA");
+
+}  // namespace
 
 void ShellOpen(const std::string& target) {
   // The shell may run a loop of its own.

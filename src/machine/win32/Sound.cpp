@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "machine/win32/FormWindow.h"
+#include "machine/win32/SystemLibrary.h"
 #include "platform/Sound.h"
 #include "platform/SoundDevice.h"
 #include "ui/Forms.h"
@@ -19,6 +20,9 @@ static_assert(SoundBufferFlags ==
 static_assert(LowestRate == DSBFREQUENCY_MIN && HighestRate == DSBFREQUENCY_MAX);
 
 namespace {
+
+SystemFunction<decltype(::DirectSoundCreate8)> DirectSoundCreate8("dsound.dll",
+                                                                  "DirectSoundCreate8");
 
 struct Release {
   void operator()(IUnknown* object) const { object->Release(); }
