@@ -27,11 +27,13 @@ void Remove(const std::string& path) {
   Patiently([&] { return FileCalls::Delete(path); }, IsInUseForReplacing);
 }
 
-// True if there is a file of that name. One that cannot be asked for is not missed.
+// True if there is a file of that name. A refusal counts only when it comes twice; it is not waited
+// for, as this is asked before every use of a file, and a user may have no right to the folder.
 bool IsThere(const std::string& path) {
   FileCalls::Info info;
-  return Patiently([&] { return FileCalls::GetInfo(path, info); }, IsInUseForReplacing) ==
-         SystemError::None;
+  const SystemError error = FileCalls::GetInfo(path, info);
+  if (error == SystemError::None || IsMissing(error)) return error == SystemError::None;
+  return FileCalls::GetInfo(path, info) == SystemError::None;
 }
 
 // Makes a file that only we may write, in place of what an ended program left under its name.
@@ -105,7 +107,7 @@ StateFound Compare(CheckedFile& target, CheckedFile& old, CheckedFile& contents)
 // Gives the copy a name under which no save looks for it. Returns the name that it has then.
 std::string KeepForTheUser(const RescueFiles& files) {
   for (int number = 1;; ++number) {
-    const std::string kept = files.stem + "-" + std::to_string(number) + ".old";
+    std::string kept = files.stem + "-" + std::to_string(number) + ".old";
     const SystemError error = FileCalls::Rename(files.old, kept);
     if (error == SystemError::None) return kept;
     if (error != SystemError::FileExists && error != SystemError::AlreadyExists) return files.old;
