@@ -70,7 +70,7 @@ TEST_F(VehicleEditor, SoundFromElsewhereIsCopiedBesideTheVehicle) {
 }
 
 TEST_F(VehicleEditor, RefusedValuesAreToldAndNothingIsSaved) {
-  const Window editor = StartVehicle("rocket");
+  StartVehicle("rocket");
   Pack& pack = RunningPack();
   Set("Steering Factor");
   pack.WaitForWindow("Steering");

@@ -44,6 +44,7 @@ struct RuntimeErrorTextTable {
   LangText MakingFolder{"RTEMakingFolder", "Making a folder"};
   LangText MakingWindow{"RTEMakingWindow", "Making a window"};
   LangText MakingMenu{"RTEMakingMenu", "Making a menu"};
+  LangText StartingTimer{"RTEStartingTimer", "Starting a timer"};
   LangText MeasuringTexts{"RTEMeasuringTexts", "Measuring texts"};
   LangText ShowingFileDialog{"RTEShowingFileDialog", "Showing a file dialog"};
   LangText OpeningSoundDevice{"RTEOpeningSoundDevice", "Opening the sound device"};

@@ -22,8 +22,8 @@ std::optional<int32_t> ParseWhole(std::string_view text);
 int32_t ParseInt32(std::string_view text);
 
 // The system's own parser, behind the others. Called only for texts that are not plain decimal
-// digits, which mean the same in every locale. Fails with RuntimeError DeviceError if the system
-// lacks it.
+// digits, which mean the same in every locale. Fails with RuntimeError DeviceError only
+// where the system lacks it.
 std::optional<double> ParseLocaleNumber(std::string_view text);
 
 // The two ways of ParseWhole. Both return false if the text is no number to them.

@@ -73,11 +73,11 @@ void NewCar::Test_Click() {
   std::optional<SoundTest::Refusal> refusal;
   try {
     refusal = test_.Start(static_cast<VehicleVariable>(Items.selected()));
+    if (!refusal) return Watch.Start();
   } catch (...) {
     StopTest();
     throw;
   }
-  if (!refusal) return Watch.Start();
   StopTest();
   Messages::Show(refusal->text, refusal->title, Platform::Icon::Critical);
 }

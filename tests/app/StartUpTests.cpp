@@ -50,7 +50,7 @@ TEST_F(StartUpStory, TheMenuHasItsItemsInOrder) {
   StartPack();
   EXPECT_THAT(MainMenu(),
               ElementsAre("&File", "  &Close (Alt+F4)",                                           //
-                          "&Vehicle", "  -&New (CTRL+N)", "  &Check .vhc file (CTRL+C)",          //
+                          "&Vehicle", "  &New (CTRL+N)", "  &Check .vhc file (CTRL+C)",           //
                           "  -&Package (CTRL+P)",                                                 //
                           "&Track", "  &New (CTRL+N)", "  &Random Track",                         //
                           "  &Check .trk file (CTRL+C)", "  -&Package (CTRL+P)",                  //
@@ -243,14 +243,13 @@ TEST(StartUp, WhateverStepFailsDoesTheOthersInTheirOrder) {
     return call.find(Simulated::Disk::TemporaryFolder) != std::string::npos;
   });
   calls.erase(std::unique(calls.begin(), calls.end()), calls.end());
-  EXPECT_THAT(
-      calls,
-      ElementsAre("FormView::FormView Skidrun2 Utility Pack", "Delete " + Updater,
-                  "ReadProgramVersion", "HoldNamedMutex ORVSK2Pack", "OpenSoundDevice",
-                  "GetInfo " + LanguageFile, "Open " + LanguageFile, "Size " + LanguageFile,
-                  "Read " + LanguageFile, "GetInfo " + LanguageFile,
-                  "FormView::MenuChanged Skidrun2 Utility Pack V1.0",
-                  "FormView::Show Skidrun2 Utility Pack V1.0"));
+  EXPECT_THAT(calls,
+              ElementsAre("FormView::FormView Skidrun2 Utility Pack", "Delete " + Updater,
+                          "ReadProgramVersion", "HoldNamedMutex ORVSK2Pack", "OpenSoundDevice",
+                          "GetInfo " + LanguageFile, "Open " + LanguageFile, "Size " + LanguageFile,
+                          "Read " + LanguageFile, "GetInfo " + LanguageFile,
+                          "FormView::MenuChanged Skidrun2 Utility Pack V1.0",
+                          "FormView::Show Skidrun2 Utility Pack V1.0"));
 }
 
 TEST_F(StartUpStory, CloseEndsTheProgram) {

@@ -12,11 +12,14 @@
 #include "internet/InternetTexts.h"
 #include "language/LanguageTexts.h"
 #include "packaging/PackagingTexts.h"
-#include "records/RecordChecker.h"
+#include "platform/InterruptedSave.h"
 #include "platform/WaveFile.h"
+#include "records/RecordChecker.h"
 #include "tests/WaveBytes.h"
 #include "tests/app/PackStory.h"
 #include "tests/vehicles/InternalSoundResources.h"
+#include "text/FailureText.h"
+#include "text/StringTable.h"
 #include "update/UpdateTexts.h"
 #include "vehicles/VehicleTexts.h"
 
@@ -145,11 +148,23 @@ void TellFailures(Player& player) {
   };
   for (const auto number :
        {InvalidCall, Overflow, OutOfMemory, TypeMismatch, FileNotFound, DeviceError, DiskFull,
-        PermissionDenied, DiskNotReady, PathFileAccess, PathNotFound}) {
+        PermissionDenied, DiskNotReady, PathFileAccess, PathNotFound, FileAlreadyExists}) {
     fail([number] { throw RuntimeError(number); });
   }
   fail([] { throw RuntimeError(PathFileAccess, RuntimeErrorTexts.NameNotUsable, "C:\\?"); });
   fail([] { throw std::logic_error("never expected"); });
+  fail([] { throw RuntimeError(DeviceError, RuntimeErrorTexts.SystemLibrary, "a.dll"); });
+  fail([] {
+    const RuntimeError failure(DiskFull, RuntimeErrorTexts.SaveHalfDone, "C:\\a");
+    throw RuntimeError::WithCopy(failure, "C:\\b");
+  });
+  // All that may have been done when the system refused.
+  bool isStep = false;
+  for (const LangText& text : TextsOf(RuntimeErrorTexts)) {
+    isStep = isStep || text.key == RuntimeErrorTexts.OpeningFile.key;
+    if (text.key == RuntimeErrorTexts.PutBackTitle.key) break;
+    if (isStep) fail([text] { throw RuntimeError(DeviceError, "", {text, 5}); });
+  }
   window.GoBack();
 }
 
@@ -297,7 +312,27 @@ const std::vector<Scene>& Scenes() {
          player.shown.push_back(player.user.Hears());
          player.Clicks("<SaveCarButton>");
        },
-       {}},
+       {"window <NewCarTitle>: [<SelectItem>, list, Engine Sound: <NotSet>, 1 of 14 / Engine "
+        "Sound: <NotSet> / Throttle Sound: <NotSet> / Ignition Sound: <NotSet> / Horn Sound: "
+        "<NotSet> / Acceleration: <NotSet> / Deceleration: <NotSet> / Top Speed: <NotSet> / Engine "
+        "Idle Frequency: <NotSet> / Engine Top Speed Frequency: <NotSet> / Engine Gear Shift "
+        "Frequency: <NotSet> / Number of Gears: <NotSet> / Steering: <NotSet> / Steering Factor: "
+        "<NotSet> / Wipers: <NotSet>] [<SetButton>, button] [<SaveCarButton>, button] "
+        "[<TestSoundButton>, button] [<CclButton>, button]",
+        "window <InternalSoundsTitle>: [<InternalSoundsText>, list, car1, 1 of 2 / car1 / car2] "
+        "[<OKButton>, button] [<CclButton>, button]",
+        "window <NewCarTitle>: [<SelectItem>, list, Wipers: <Yes>, 14 of 14 / Engine Sound: "
+        "<NotSet> / Throttle Sound: car1 / Ignition Sound: <NotSet> / Horn Sound: <NotSet> / "
+        "Acceleration: <NotSet> / Deceleration: <NotSet> / Top Speed: <NotSet> / Engine Idle "
+        "Frequency: <NotSet> / Engine Top Speed Frequency: <NotSet> / Engine Gear Shift Frequency: "
+        "<NotSet> / Number of Gears: <NotSet> / Steering: <NotSet> / Steering Factor: <NotSet> / "
+        "Wipers: <Yes>] [<SetButton>, button] [<SaveCarButton>, button] [<TestSoundButton>, "
+        "button] [<CclButton>, button]",
+        "<SelectItem>, list, Wipers: <No>, 14 of 14",
+        "box <WipersQuestionTitle>: <WipersQuestionText>",
+        "box <InternalSoundQuestionTitle>: <InternalSoundQuestionText>",
+        "box <WipersQuestionTitle>: <WipersQuestionText>",
+        "box <VehicleFileSavedTitle>: <VehicleFileSavedText>"}},
 
       {"values of a vehicle that are not given",
        [](Player& player) {
@@ -317,7 +352,58 @@ const std::vector<Scene>& Scenes() {
          player.user.TypesInBox("101");
          player.OnRow(12, "<SetButton>");
        },
-       {}},
+       {"box <VehicleNoFileErrorTitle>: <VehicleNoValuesText>",
+        "box <InternalSoundQuestionTitle>: <InternalSoundQuestionText>",
+        "box <NoEngineSoundTitle>: <NoEngineSoundText>",
+        "box <InternalSoundQuestionTitle>: <InternalSoundQuestionText>",
+        "box <NoThrottleSoundTitle>: <NoThrottleSoundText>",
+        "box <InternalSoundQuestionTitle>: <InternalSoundQuestionText>",
+        "box <NoStartSoundTitle>: <NoStartSoundText>",
+        "box <InternalSoundQuestionTitle>: <InternalSoundQuestionText>",
+        "box <NoHornSoundTitle>: <NoHornSoundText>",
+        "box <NoAccelerationTitle>: <NoAccelerationText>",
+        "box <InvalidAccelerationTitle>: <InvalidAccelerationText>",
+        "box <NoDecelerationTitle>: <NoDecelerationText>",
+        "box <InvalidDecelerationTitle>: <InvalidDecelerationText>",
+        "box <NoSkidrunTitle>: <NoSkidrunText>",
+        "box <InvalidSkidrunTitle>: <InvalidSkidrunText>",
+        "box <NoIdleFrequencyTitle>: <NoIdleFrequencyText>",
+        "box <NoIdleFrequencyTitle>: <InvalidIdleFrequencyText>",
+        "box <NoTopFrequencyTitle>: <NoTopFrequencyText>",
+        "box <InvalidTopFrequencyTitle>: <InvalidTopFrequencyText>",
+        "box <NoShiftFrequencyTitle>: <NoShiftFrequencyText>",
+        "box <InvalidShiftFrequencyTitle>: <InvalidShiftFrequencyTitle>",
+        "box <NoNumberOfGearsTitle>: <NoNumberOfGearsText>",
+        "box <InvalidNumberOfGearsTitle>: <InvalidNumberOfGearsText>",
+        "box <NoSteeringTitle>: <NoSteeringText>",
+        "box <InvalidSteeringTitle>: <InvalidSteeringText>",
+        "box <NoSteeringFactorTitle>: <NoSteeringFactorText>",
+        "box <InvalidSteeringFactorTitle>: <InvalidSteeringFactorText>",
+        "box <SteeringFactorSetOutOfRangeTitle>: <SteeringFactorSetOutOfRangeText1> 1 <And> 100. "
+        "<SteeringFactorSetOutOfRangeText2>",
+        "dialog Open Engine Sound: <OpenWavDlgFilter> (*.wav)",
+        "dialog Open Throttle Sound: <OpenWavDlgFilter> (*.wav)",
+        "dialog Open Ignition Sound: <OpenWavDlgFilter> (*.wav)",
+        "dialog Open Horn Sound: <OpenWavDlgFilter> (*.wav)",
+        "question <AccelerationTitle>: <AccelerationPrompt>",
+        "question <AccelerationTitle>: <AccelerationPrompt>",
+        "question <DecelerationTitle>: <DecelerationPrompt>",
+        "question <DecelerationTitle>: <DecelerationPrompt>",
+        "question <SkidrunTitle>: <SkidrunPrompt>",
+        "question <SkidrunTitle>: <SkidrunPrompt>",
+        "question <IdleFrequencyTitle>: <IdleFrequencyPrompt>",
+        "question <IdleFrequencyTitle>: <IdleFrequencyPrompt>",
+        "question <TopFrequencyTitle>: <TopFrequencyPrompt>",
+        "question <TopFrequencyTitle>: <TopFrequencyPrompt>",
+        "question <ShiftFrequencyTitle>: <ShiftFrequencyPrompt>",
+        "question <ShiftFrequencyTitle>: <ShiftFrequencyPrompt>",
+        "question <NumberOfGearsTitle>: <NumberOfGearsPrompt>",
+        "question <NumberOfGearsTitle>: <NumberOfGearsPrompt>",
+        "question <SteeringTitle>: <SteeringPrompt>",
+        "question <SteeringTitle>: <SteeringPrompt>",
+        "question <SteeringFactorTitle>: <SteeringFactorPrompt>",
+        "question <SteeringFactorTitle>: <SteeringFactorPrompt>",
+        "question <SteeringFactorTitle>: <SteeringFactorPrompt>"}},
 
       {"sounds of a vehicle that cannot be heard",
        [](Player& player) {
@@ -351,7 +437,24 @@ const std::vector<Scene>& Scenes() {
          player.shown.push_back(player.user.Hears());
          player.user.Presses("Enter");
        },
-       {}},
+       {"<StopButton>, button",
+        "box <TestSoundNonexistentTitle>: <TestSoundNonexistentText1> enginesound. "
+        "<TestSoundNonexistentText2>",
+        "box <IgnitionInternalErrorTitle>: <IgnitionInternalErrorText>",
+        "box <InvalidTestVarErrorTitle>: <InvalidTestVarErrorText>",
+        "box <FreqInternalErrorTitle>: <FreqInternalErrorText>",
+        "box <InternalSoundQuestionTitle>: <InternalSoundQuestionText>",
+        "box <RTETitle>: <SoundFrequencyNotPossible>",
+        "box <InternalSoundQuestionTitle>: <InternalSoundQuestionText>",
+        "box <RTETitle>: <SoundNotAWave>\r\n<RTEFile> C:\\Games\\Skidrun2\\vehicles\\horn.wav",
+        "box <RTETitle>: <SoundDamaged>\r\n<RTEFile> C:\\Games\\Skidrun2\\vehicles\\horn.wav",
+        "box <RTETitle>: <SoundCompressed>\r\n<RTEFile> C:\\Games\\Skidrun2\\vehicles\\horn.wav",
+        "box <RTETitle>: <SoundFormatNotSupported>\r\n<RTEFile> "
+        "C:\\Games\\Skidrun2\\vehicles\\horn.wav",
+        "box <RTETitle>: <SoundHasNoData>\r\n<RTEFile> C:\\Games\\Skidrun2\\vehicles\\horn.wav",
+        "box <RTETitle>: <SoundTooLarge>\r\n<RTEFile> C:\\Games\\Skidrun2\\vehicles\\horn.wav",
+        "box <RTETitle>: <SoundNotAvailable>",
+        "dialog Open Horn Sound: <OpenWavDlgFilter> (*.wav)"}},
 
       {"a track that is built",
        [](Player& player) {
@@ -499,14 +602,51 @@ const std::vector<Scene>& Scenes() {
 
       {"failures",
        TellFailures,
-       {"box <RTETitle>: <RTEInvalidCall>", "box <RTETitle>: <RTEOverflow>",
-        "box <RTETitle>: <RTEOutOfMemory>", "box <RTETitle>: <RTETypeMismatch>",
-        "box <RTETitle>: <RTEFileNotFound>", "box <RTETitle>: <RTEDeviceError>",
-        "box <RTETitle>: <RTEDiskFull>", "box <RTETitle>: <RTEPermissionDenied>",
-        "box <RTETitle>: <RTEDiskNotReady>", "box <RTETitle>: <RTEPathFileAccess>",
+       {"box <RTETitle>: <RTEInvalidCall>",
+        "box <RTETitle>: <RTEOverflow>",
+        "box <RTETitle>: <RTEOutOfMemory>",
+        "box <RTETitle>: <RTETypeMismatch>",
+        "box <RTETitle>: <RTEFileNotFound>",
+        "box <RTETitle>: <RTEDeviceError>",
+        "box <RTETitle>: <RTEDiskFull>",
+        "box <RTETitle>: <RTEPermissionDenied>",
+        "box <RTETitle>: <RTEDiskNotReady>",
+        "box <RTETitle>: <RTEPathFileAccess>",
         "box <RTETitle>: <RTEPathNotFound>",
+        "box <RTETitle>: <RTEFileAlreadyExists>",
         "box <RTETitle>: <RTENameNotUsable>\r\n<RTEFile> C:\\?",
-        "box <RTETitle>: <RTEUnexpected>"}},
+        "box <RTETitle>: <RTEUnexpected>",
+        "box <RTETitle>: <RTESystemLibrary>\r\n<RTEFile> a.dll",
+        "box <RTETitle>: <RTESaveHalfDone>\r\n<RTEFile> C:\\a\r\n<RTECopy> C:\\b",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEOpeningFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEReadingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEWritingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEReplacingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTERewritingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTERestoringFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTERenamingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEDeletingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEAskingAttributes>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTESettingAttributes>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEListingFolder>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingFolder>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingWindow>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMenu>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEStartingTimer>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMeasuringTexts>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEShowingFileDialog>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEOpeningSoundDevice>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMutex>: <RTESystemError> 5"}},
+
+      {"files of an earlier run that were half saved",
+       [](Player& player) {
+         for (const LangText& text : {RuntimeErrorTexts.PutBack, RuntimeErrorTexts.NotPutBack}) {
+           player.shown.push_back("box " + GetLangString(RuntimeErrorTexts.PutBackTitle) + ": " +
+                                  SaveNoteText({text, "C:\\a", ""}));
+         }
+       },
+       {"box <RTEPutBackTitle>: <RTEPutBack>\r\n<RTEFile> C:\\a",
+        "box <RTEPutBackTitle>: <RTENotPutBack>\r\n<RTEFile> C:\\a"}},
   };
   return scenes;
 }

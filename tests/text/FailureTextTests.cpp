@@ -23,7 +23,7 @@ TEST_F(FailureTexts, ACauseAndAFile) {
             "The disk is full.\r\nFile: C:\\a");
   EXPECT_EQ(FailureText(RuntimeError(RuntimeError::DiskFull), "C:\\b"),
             "The disk is full.\r\nFile: C:\\b");
-  EXPECT_EQ(FailureText(std::bad_alloc()), "There is not enough memory, or a line is too long.");
+  EXPECT_EQ(FailureText(std::bad_alloc()), "There is not enough memory.");
 }
 
 TEST_F(FailureTexts, TheLastLineIsWhatTheSystemSaid) {

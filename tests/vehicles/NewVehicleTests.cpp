@@ -1,4 +1,5 @@
 // A vehicle is begun, filled in and saved.
+#include "platform/Files.h"
 #include "tests/vehicles/VehicleEditorStory.h"
 #include "vehicles/VehicleValues.h"
 

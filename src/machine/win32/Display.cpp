@@ -66,7 +66,7 @@ Font::Font(UINT dpi) {
   GetTextMetricsW(context_.get(), &metrics);
   units_ = {static_cast<int>((size.cx / 26 + 1) / 2), static_cast<int>(metrics.tmHeight)};
   if (!GetCharWidth32W(context_.get(), FirstPlain, LastPlain, plainWidths_.data())) {
-    throw RuntimeError(RuntimeError::DeviceError);
+    FailAt(RuntimeErrorTexts.MeasuringTexts);
   }
 }
 

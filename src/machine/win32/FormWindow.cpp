@@ -235,7 +235,7 @@ void FormView::Native::StartTimer(Timer& timer) {
   timers_[id] = &timer;
   if (SetTimer(window_, id, static_cast<UINT>(timer.milliseconds()), nullptr)) return;
   timers_.erase(id);
-  throw RuntimeError(RuntimeError::DeviceError);
+  FailAt(RuntimeErrorTexts.StartingTimer);
 }
 
 void FormView::Native::StopTimer(Timer& timer) {
