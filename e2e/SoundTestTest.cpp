@@ -61,7 +61,7 @@ class SoundTest : public VehicleEditorTest {
 };
 
 TEST_F(SoundTest, SoundIsLoopedWithoutGapUntilItIsStopped) {
-  constexpr double Hertz = 441;
+  constexpr double Hertz = 440;
   constexpr double Length = 0.2;
   Recording before(Given().speakers);
   StartVehicle("rocket");
@@ -83,9 +83,9 @@ TEST_F(SoundTest, SoundIsLoopedWithoutGapUntilItIsStopped) {
   }
   EXPECT_TRUE(isClean);
 
-  PressTest("Test Sound");
-  recording.WaitForSilence(0.5);
-  EXPECT_TRUE(IsSilent(recording.Take(0.5)));
+  StopTest();
+  Recording after(Given().speakers);
+  EXPECT_TRUE(IsSilent(after.Take(0.5)));
 }
 
 TEST_F(SoundTest, FrequenciesAreTheEngineAtTheirRates) {
@@ -149,7 +149,9 @@ TEST_F(SoundTest, ClosingTheEditorDuringTheIgnitionIsSilence) {
   RunningPack().Press("Escape");
   RunningPack().WaitForMain();
   recording.WaitForSilence(0.5);
-  EXPECT_TRUE(IsSilent(recording.Take(0.5)));
+  // Neither does the engine come.
+  Recording after(Given().speakers);
+  EXPECT_TRUE(IsSilent(after.Take(0.5)));
 }
 
 TEST_F(SoundTest, OneHundredDamagedSoundsAreEachToldOrPlayed) {
@@ -172,13 +174,10 @@ TEST_F(SoundTest, OneHundredDamagedSoundsAreEachToldOrPlayed) {
     if (random() % 5 == 0) bytes.resize(random() % bytes.size());
     WriteFile(vehicle("horn.wav"), bytes);
     pack.Press("Alt+T");
-    // Either a box comes, or the caption says that it plays.
-    bool isPlaying = false;
     WaitUntil("what becomes of the sound", [&] {
-      isPlaying = editor.IsEnabled() && editor.focus() && editor.focus()->name() == "Stop";
-      return isPlaying || !editor.IsEnabled();
+      return !editor.IsEnabled() || (editor.focus() && editor.focus()->name() == "Stop");
     });
-    if (isPlaying) {
+    if (editor.IsEnabled()) {
       PressTest("Test Sound");
     } else {
       EXPECT_EQ(pack.AnswerBox().title, "Error");

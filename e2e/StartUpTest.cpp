@@ -41,7 +41,7 @@ TEST_F(StartUp, MenusStandInTheirOrder) {
                         "&File",                                     //
                         "  &Close (Alt+F4)",                         //
                         "&Vehicle",                                  //
-                        "  &New (CTRL+N) [grey]",                    //
+                        "  &New (CTRL+N)",                           //
                         "  &Check .vhc file (CTRL+C)",               //
                         "  &Package (CTRL+P) [grey]",                //
                         "&Track",                                    //

@@ -1,5 +1,5 @@
-// The work on vehicles behind the menus and the editor's windows: check a vehicle file, choose a file
-// for a new vehicle, and write it.
+// The work on vehicles behind the menus and the editor's windows: check a vehicle file, choose a
+// file for a new vehicle, and write it.
 #pragma once
 
 #include <string>

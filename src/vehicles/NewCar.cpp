@@ -16,9 +16,9 @@ namespace {
 
 // What stands before the values, row by row, in the order of the variables.
 const std::array<LangText, 14> RowLabels{
-    VehicleTexts.EngineSoundRow, VehicleTexts.ThrottleSoundRow, VehicleTexts.IgnitionSoundRow,
-    VehicleTexts.HornSoundRow,   VehicleTexts.AccelerationRow,  VehicleTexts.DecelerationRow,
-    VehicleTexts.TopSpeedRow,    VehicleTexts.IdleFrequencyRow, VehicleTexts.TopFrequencyRow,
+    VehicleTexts.EngineSoundRow,    VehicleTexts.ThrottleSoundRow, VehicleTexts.IgnitionSoundRow,
+    VehicleTexts.HornSoundRow,      VehicleTexts.AccelerationRow,  VehicleTexts.DecelerationRow,
+    VehicleTexts.TopSpeedRow,       VehicleTexts.IdleFrequencyRow, VehicleTexts.TopFrequencyRow,
     VehicleTexts.ShiftFrequencyRow, VehicleTexts.NumberOfGearsRow, VehicleTexts.SteeringRow,
     VehicleTexts.SteeringFactorRow, VehicleTexts.WipersRow,
 };
@@ -69,11 +69,14 @@ void NewCar::Save_Click() {
 
 void NewCar::Test_Click() {
   if (test_.IsPlaying()) return StopTest();
-  Test.SetCaption(GetLangString(VehicleTexts.StopButton));
   std::optional<SoundTest::Refusal> refusal;
   try {
     refusal = test_.Start(static_cast<VehicleVariable>(Items.selected()));
-    if (!refusal) return Watch.Start();
+    if (!refusal) {
+      Watch.Start();
+      ShowTestCaption(VehicleTexts.StopButton);
+      return;
+    }
   } catch (...) {
     StopTest();
     throw;
@@ -98,14 +101,19 @@ void NewCar::Watch_Timer() {
 void NewCar::StopTest() {
   Watch.Stop();
   test_.Stop();
-  Test.SetCaption(GetLangString(VehicleTexts.TestSoundButton));
+  ShowTestCaption(VehicleTexts.TestSoundButton);
+}
+
+// A caption that stays as it is must not be set: a screen reader would say it again.
+void NewCar::ShowTestCaption(const LangText& text) {
+  const std::string caption = GetLangString(text);
+  if (Test.caption() != caption) Test.SetCaption(caption);
 }
 
 void NewCar::Refresh() {
   std::vector<std::string> rows;
   for (size_t i = 0; i < RowLabels.size(); ++i) {
-    rows.push_back(GetLangString(RowLabels[i]) +
-                   GetVehicleValue(static_cast<VehicleVariable>(i)));
+    rows.push_back(GetLangString(RowLabels[i]) + GetVehicleValue(static_cast<VehicleVariable>(i)));
   }
   Items.SetRows(std::move(rows), 0);
   Items.Focus();

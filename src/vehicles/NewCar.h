@@ -36,11 +36,12 @@ class NewCar final : public Platform::Form {
   // The rows anew, with the first one selected and the focus on the list.
   void Refresh();
   void StopTest();
+  void ShowTestCaption(const LangText& text);
 
   SoundTest test_;
 };
 
-// Starts a vehicle: the user chooses its file, and the editor is shown in place of the window in use.
-// If no file is chosen, the user is told and nothing changes. Fails as
+// Starts a vehicle: the user chooses its file, and the editor is shown in place of the window in
+// use. If no file is chosen, the user is told and nothing changes. Fails as
 // CarManager::ChooseFileOfNewVehicle does.
 void NewVehicle();

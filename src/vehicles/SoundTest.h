@@ -28,8 +28,8 @@ class SoundTest {
   std::optional<Refusal> Start(VehicleVariable variable);
 
   // Goes on from the ignition to the engine when that is due, and notices a device that has gone.
-  // To be called some twenty times a second. Returns false if nothing plays any more. Fails as Start
-  // does; nothing plays then.
+  // To be called some twenty times a second. Returns false if nothing plays any more. Fails as
+  // Start does; nothing plays then.
   bool Continue();
 
   // Silence, at once.
@@ -42,6 +42,6 @@ class SoundTest {
   std::optional<Refusal> StartIgnition();
   std::optional<Refusal> StartFrequency(VehicleVariable variable);
 
-  std::optional<Platform::SoundBuffer> sound_;  // what is heard now
+  std::optional<Platform::SoundBuffer> sound_;   // what is heard now
   std::optional<Platform::SoundBuffer> engine_;  // waits for the end of the ignition
 };

@@ -25,6 +25,6 @@ inline constexpr int32_t Unreadable = -3;
 //
 // Variables that are missing, occur twice or stand in another order are no fault. What follows a
 // second "=" in a line is ignored. An empty sound name stands for the folder itself, which exists.
-// The internal sounds car5 and car6 are taken for file names here. Of a line that is longer than any
-// of a vehicle, a message quotes as much as ShortLine keeps.
+// The internal sounds car5 and car6 are taken for file names here. Of a line that is longer than
+// any of a vehicle, a message quotes as much as ShortLine keeps.
 int32_t CheckVehicleFile(const std::string& path, int32_t& code, std::string& message);

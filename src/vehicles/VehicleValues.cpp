@@ -132,8 +132,8 @@ SetResult SetNumber(VehicleVariable variable) {
 }
 
 SetResult SetWipers() {
-  const bool hasWipers = Messages::Ask(Words.WipersQuestionText, Words.WipersQuestionTitle,
-                                       Platform::Buttons::YesNo);
+  const bool hasWipers =
+      Messages::Ask(Words.WipersQuestionText, Words.WipersQuestionTitle, Platform::Buttons::YesNo);
   return Set(VehicleVariable::HasWipers, hasWipers ? "1" : "0");
 }
 

@@ -81,7 +81,7 @@ TEST_F(SystemContract, TheProgramReadsWhatItCarriesWhateverTheLetterCase) {
 TEST_F(SystemContract, WhatTheProgramDoesNotCarryIsNotThere) {
   const std::string name = TestMachine::NameOfResource();
   EXPECT_EQ(Platform::ReadResource(Platform::SoundResource + 1, name), std::nullopt);
-  for (const std::string& other : {name + "s", name.substr(1), std::string("car1engine"),
+  for (const std::string& other : {name + "s", name.substr(1), std::string("car9engine"),
                                    std::string(), std::string("#1"), std::string("#")}) {
     EXPECT_EQ(Platform::ReadResource(Platform::SoundResource, other), std::nullopt) << other;
   }
