@@ -101,7 +101,7 @@ gtest_run() {
   echo "Running $name"
   # Much longer than any takes: a program that hangs is a failure, not the end of all tests.
   # In the foreground, so that Ctrl+C, or the end of the background, reaches it.
-  timeout --foreground 900 "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
+  timeout --foreground 1800 "$@" "--gtest_output=xml:$report" >"$log" 2>&1 || status=$?
   if [ -s "$report" ]; then
     all=$(sed -n 's/^<testsuites tests="\([0-9]*\)".*/\1/p' "$report")
     bad=$(sed -n 's/^<testsuites .*failures="\([0-9]*\)".*/\1/p' "$report")
