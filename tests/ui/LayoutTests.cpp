@@ -268,6 +268,14 @@ TEST(LayoutInUnits, ASmallWindow) {
   EXPECT_EQ(PreferredSize(items, InUnits, 400, {150, 1024}).width, 150) << "what the screen has";
 }
 
+TEST(LayoutInUnits, AListTakesTheHeightThatIsLeft) {
+  const std::vector<Item> items{{Kind::List, "IP:"}, {Kind::Button, "OK"}};
+  EXPECT_EQ(Described(Preferred(items, InUnits)),
+            (Lines{"7,7 180x8 / 7,18 180x86", "137,111 50x14"}));
+  EXPECT_EQ(Described(Arrange(items, InUnits, {194, 100})),
+            (Lines{"7,7 180x8 / 7,18 180x54", "137,79 50x14"}));
+}
+
 TEST(LayoutInUnits, ALongTextIsBroken) {
   const std::string text = std::string(70, 'x') + " " + std::string(9, 'y');
   EXPECT_EQ(Described(Preferred({{Kind::Text, text}}, InUnits)), Lines{"7,7 300x16"});
@@ -287,6 +295,10 @@ TEST(LayoutInUnits, ARowOfButtonsIsAtMostAsWideAsATextMayBe) {
             (Lines{"7,7 72x14", "83,7 72x14", "159,7 72x14", "235,7 72x14"}));
   EXPECT_EQ(Described(Preferred(Buttons({caption, caption, caption, caption + "x"}), InUnits)),
             (Lines{"7,7 72x14", "83,7 72x14", "159,7 72x14", "155,25 76x14"}));
+  EXPECT_EQ(
+      Described(Arrange(Buttons({caption, caption, caption, caption + "x"}), InUnits, {314, 46})),
+      (Lines{"83,7 72x14", "159,7 72x14", "235,7 72x14", "231,25 76x14"}))
+      << "the last is too wide by its gap";
 }
 
 TEST(LayoutInUnits, EachRunOfButtonsHasItsOwnRows) {
@@ -307,6 +319,8 @@ TEST(LayoutInUnits, AButtonWithoutRoomStillShowsItsText) {
 TEST(LayoutInUnits, TallLettersMakeTallButtons) {
   const Font tall{InUnits.units, FontOf(4, 12).measure};
   EXPECT_EQ(Described(Preferred(Buttons({"OK"}), tall)), Lines{"137,7 50x18"});
+  const Font low{InUnits.units, FontOf(4, 7).measure};
+  EXPECT_EQ(Described(Preferred(Buttons({"OK"}), low)), Lines{"137,7 50x14"});
 }
 
 }  // namespace
