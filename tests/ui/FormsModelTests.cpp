@@ -52,8 +52,7 @@ TEST_F(FormsModel, AFailureWithoutAFileIsToldByItsCauseAlone) {
 
 TEST_F(FormsModel, MemoryThatRunsOutIsTold) {
   Dispatch([] { throw std::bad_alloc(); });
-  EXPECT_THAT(user.LastBox(),
-              Shows(Icon::Critical, "There is not enough memory."));
+  EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "There is not enough memory."));
 }
 
 TEST_F(FormsModel, AnyOtherFailureIsToldAsUnexpected) {
@@ -79,8 +78,7 @@ TEST_F(FormsModel, AMainWindowThatCannotComeBackIsTold) {
     tool.Leave();
     machine.screen.refusesWindows = true;
   });
-  EXPECT_THAT(user.LastBox(),
-              Shows(Icon::Critical, "There is not enough memory."));
+  EXPECT_THAT(user.LastBox(), Shows(Icon::Critical, "There is not enough memory."));
   EXPECT_THAT(Screen(), ElementsAre("Tool")) << "the user can still work";
 }
 
@@ -222,6 +220,7 @@ TEST_F(FormsModel, EndingTheProgramEndsAModalWindow) {
   tool.ShowModal();
   EXPECT_TRUE(HasProgramEnded());
   EXPECT_THAT(Screen(), IsEmpty());
+  EXPECT_EQ(ActiveForm(), nullptr) << "no box is owned by a window that has gone";
 }
 
 TEST_F(FormsModel, AModalWindowIsLoadedAnewEachTime) {
