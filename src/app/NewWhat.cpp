@@ -4,7 +4,6 @@
 #include "app/Interface.h"
 
 NewWhat::NewWhat()
-    : Chooser(
-          AppTexts.NewWhatTitle, AppTexts.NewWhatPrompt,
-          {{AppTexts.Vehicle, Interface::NewVehicle}, {AppTexts.Track, Interface::NewTrack}},
-          MainWindow::StaysHidden) {}
+    : Chooser(AppTexts.NewWhatTitle, AppTexts.NewWhatPrompt,
+              {{AppTexts.Vehicle, Interface::NewVehicle}, {AppTexts.Track, Interface::NewTrack}},
+              MainWindow::StaysHidden) {}

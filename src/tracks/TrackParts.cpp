@@ -13,6 +13,7 @@ namespace {
 template <class Names>
 void Fill(Platform::ListBox& list, const Names& names) {
   std::vector<std::string> rows;
+  rows.reserve(names.size());
   for (const LangText& name : names) rows.push_back(GetLangString(name));
   list.SetRows(std::move(rows), 0);
 }

@@ -299,9 +299,11 @@ void Form::FocusArrived(Control& control) {
 }
 
 void Dispatch(std::function<void()> handler) noexcept {
+  // Ours alone: the one that was given may go with its window while this runs.
+  const std::function<void()> own = std::move(handler);
   TheStage().EventBegins();
   try {
-    handler();
+    own();
   } catch (...) {
     TellFailure();
   }

@@ -155,9 +155,9 @@ class Form {
 
 // Runs what an event asks for. If it fails, whatever the exception, the user is told in a critical
 // box, with the cause and the file. Afterwards what was put off is done, and if the window on the
-// stage has left and none was shown in its place, its opener is shown; and the user is told of files
-// that the event found half saved from an earlier run.
-// The handler is a copy of its own, so that it may be the end of the window to which it belongs.
+// stage has left and none was shown in its place, its opener is shown; and the user is told of
+// files that the event found half saved from an earlier run. The handler is a copy of its own, so
+// that it may be the end of the window to which it belongs.
 void Dispatch(std::function<void()> handler) noexcept;
 
 // Tells the user of the exception that is being handled: for a catch (...) where the system calls

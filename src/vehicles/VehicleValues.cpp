@@ -149,7 +149,7 @@ SetResult SetVehicleValue(int index) {
 }
 
 std::string GetVehicleValue(VehicleVariable variable) {
-  const std::string value = VehicleLines::ValueOf(TheVehicle().VehicleData, variable);
+  std::string value = VehicleLines::ValueOf(TheVehicle().VehicleData, variable);
   if (value.empty()) return GetLangString(VehicleTexts.NotSet);
   if (variable == VehicleVariable::HasWipers && value == "1") {
     return GetLangString(VehicleTexts.Yes);

@@ -28,9 +28,8 @@ TEST_F(NewVehicleStory, TheFileIsChosenInTheGamesFolderOfVehicles) {
 
 TEST_F(NewVehicleStory, TheEditorOpensOnItsFirstRow) {
   StartsVehicle();
-  EXPECT_THAT(
-      user.HearsOnOpening(),
-      ElementsAre(EditorTitle, "Select an item:, list, Engine Sound: not set, 1 of 14"));
+  EXPECT_THAT(user.HearsOnOpening(),
+              ElementsAre(EditorTitle, "Select an item:, list, Engine Sound: not set, 1 of 14"));
 }
 
 TEST_F(NewVehicleStory, TheChooserLeadsToTheEditorToo) {
@@ -122,8 +121,7 @@ TEST_F(NewVehicleStory, ASoundOfTheGameIsChosenByItsName) {
   Sets(Horn);
   EXPECT_THAT(user.LastBox(), Shows(Icon::Question, "Would you like to use an internal game sound?",
                                     "Sound selection"));
-  EXPECT_THAT(user.HearsOnOpening(),
-              ElementsAre(SoundsTitle, "Sounds:, list, car1, 1 of 8"));
+  EXPECT_THAT(user.HearsOnOpening(), ElementsAre(SoundsTitle, "Sounds:, list, car1, 1 of 8"));
   user.Presses("End");
   user.Presses("Enter");
   EXPECT_EQ(user.SeesWindow(), EditorTitle);
@@ -371,9 +369,9 @@ TEST_F(NewVehicleStory, WithoutAnyValueNothingIsSaved) {
   user.AnswersYes();
   StartsVehicle();
   Saves();
-  EXPECT_THAT(user.LastBox(),
-              Shows(Icon::Critical, "No value has been set yet. The file was not saved.",
-                    "Save error"));
+  EXPECT_THAT(
+      user.LastBox(),
+      Shows(Icon::Critical, "No value has been set yet. The file was not saved.", "Save error"));
   EXPECT_EQ(machine.files.Text(Rocket), "an old vehicle");
   EXPECT_EQ(user.SeesWindow(), EditorTitle);
 }

@@ -70,7 +70,8 @@ TEST_F(SoundTestStory, ASoundOfTheGameIsPlayedAgainAndAgain) {
 TEST_F(SoundTestStory, EachKindOfSoundIsItsOwn) {
   SetsInternalSound(Engine, "car5");
   SetsInternalSound(Throttle, "car2");
-  for (const auto& [row, resource] : {std::pair(Engine, "car5engine"), {Throttle, "car2throttle"}}) {
+  for (const auto& [row, resource] :
+       {std::pair(Engine, "car5engine"), {Throttle, "car2throttle"}}) {
     Tests(row);
     EXPECT_THAT(machine.sound.Playing(), ElementsAre(PlaysOver(SamplesOfResource(resource))));
     user.Presses("Alt+T");
@@ -121,8 +122,8 @@ TEST_F(SoundTestStory, ADamagedSoundIsToldWithItsReason) {
 }
 
 TEST_F(SoundTestStory, WhatIsNoSoundCannotBeTested) {
-  for (const int row : {Acceleration, Deceleration, TopSpeed, Gears, Steering, SteeringFactor,
-                        Wipers}) {
+  for (const int row :
+       {Acceleration, Deceleration, TopSpeed, Gears, Steering, SteeringFactor, Wipers}) {
     Tests(row);
     ExpectRefusal("Cannot test. The variable you have selected is not a testable value.",
                   "Input error");
@@ -135,8 +136,7 @@ TEST_F(SoundTestStory, TheIgnitionIsPlayedOnceAndThenTheEngine) {
   SetsInternalSound(Engine, "car1");
   SetsInternalSound(Ignition, "cycle1");
   Tests(Ignition);
-  EXPECT_THAT(machine.sound.Playing(),
-              ElementsAre(PlaysOnce(SamplesOfResource("cycle1ignition"))));
+  EXPECT_THAT(machine.sound.Playing(), ElementsAre(PlaysOnce(SamplesOfResource("cycle1ignition"))));
   EXPECT_EQ(user.Hears(), "Stop, button, Alt+T");
   machine.sound.EndSounds();
   user.Waits(100);

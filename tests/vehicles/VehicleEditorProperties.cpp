@@ -26,9 +26,9 @@ class VehicleEditorProperty : public VehicleEditorStory {
     return text;
   }
 
-  const std::vector<std::string> numbers{"1",   "50",     "22050",       "0.5",  "-3", " 7 ",
-                                         "1e2", "1,000",  "2147483647",  "(5)",  "+3", "&H10",
-                                         "3-",  "1=2",    "99999999999", "fast", ".",  "12 "};
+  const std::vector<std::string> numbers{"1",   "50",    "22050",       "0.5",  "-3", " 7 ",
+                                         "1e2", "1,000", "2147483647",  "(5)",  "+3", "&H10",
+                                         "3-",  "1=2",   "99999999999", "fast", ".",  "12 "};
   const std::vector<std::string> sounds{"roar.wav", "D:\\Sounds\\horn.wav", "D:\\Sounds\\a=b.wav",
                                         "ROAR.wav"};
 };
@@ -53,9 +53,8 @@ TEST_F(VehicleEditorProperty, WhatIsSavedPassesTheCheck) {
     ++saved;
     int32_t code = 0;
     std::string message;
-    ASSERT_EQ(CheckVehicleFile(Rocket, code, message), 0)
-        << message << "\n"
-        << machine.files.Text(Rocket);
+    ASSERT_EQ(CheckVehicleFile(Rocket, code, message), 0) << message << "\n"
+                                                          << machine.files.Text(Rocket);
   }
   EXPECT_GT(saved, 40);
 }

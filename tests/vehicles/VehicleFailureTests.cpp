@@ -60,8 +60,8 @@ TEST(VehicleFailureSweep, ASoundIsSetAndCopiedWholeOrNeither) {
     EXPECT_EQ(vehicle.user.SeesWindow(), "Create Vehicle");
     if (TheVehicle().VehicleData == before) {
       EXPECT_TRUE(machine.FailureHappened() && vehicle.WasToldOfAFailure());
-      EXPECT_THAT(machine.files.Names(Vehicles), testing::Each(testing::AnyOf("rocket.vhc",
-                                                                              "roar.wav")));
+      EXPECT_THAT(machine.files.Names(Vehicles),
+                  testing::Each(testing::AnyOf("rocket.vhc", "roar.wav")));
       vehicle.ForgetTheRest();
       setsEngine();
     }

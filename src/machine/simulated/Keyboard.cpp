@@ -12,10 +12,8 @@
 
 namespace Simulated {
 
-using Platform::ActiveForm;
 using Platform::Button;
 using Platform::Control;
-using Platform::Form;
 using Platform::KeyEvent;
 namespace Key = Platform::Key;
 namespace Shift = Platform::Shift;
