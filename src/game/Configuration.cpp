@@ -1,5 +1,7 @@
 #include "game/Configuration.h"
 
+#include <exception>
+
 #include "base/RuntimeError.h"
 #include "game/Application.h"
 #include "game/ConfigurationText.h"
@@ -18,10 +20,10 @@ void Rewrite(const std::string& path, const std::string& bytes) {
   try {
     Platform::WriteWholeFile(path, bytes);
     Platform::SetAttributes(path, Hidden);
-  } catch (const RuntimeError&) {
+  } catch (const std::exception&) {
     try {
       Platform::SetAttributes(path, before);
-    } catch (const RuntimeError&) {
+    } catch (const std::exception&) {
       // What the user is told is the first failure.
     }
     throw;
