@@ -18,7 +18,7 @@ std::vector<std::string> NamesFor(VehicleVariable variable) {
 
 }  // namespace
 
-InternalCars::InternalCars() : Form(VehicleTexts.InternalSoundsTitle) {
+InternalCars::InternalCars() : Form(VehicleTexts.InternalSoundsTitle, {.isResizable = true}) {
   Sounds.OnDoubleClick = [this] { Submit_Click(); };
   Submit.OnClick = [this] { Submit_Click(); };
   Ccl.OnClick = [this] { Ccl_Click(); };

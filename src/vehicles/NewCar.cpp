@@ -25,7 +25,7 @@ const std::array<LangText, 14> RowLabels{
 
 }  // namespace
 
-NewCar::NewCar() : Form(VehicleTexts.NewCarTitle) {
+NewCar::NewCar() : Form(VehicleTexts.NewCarTitle, {.isResizable = true}) {
   OnLoad = [this] { Form_Load(); };
   OnUnload = [this] { Form_Unload(); };
   Items.OnDoubleClick = [this] { Set_Click(); };
