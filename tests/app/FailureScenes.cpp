@@ -1,0 +1,105 @@
+// Failures of every kind in the language of keys.
+#include "base/RuntimeError.h"
+#include "platform/InterruptedSave.h"
+#include "tests/app/TranslatedPack.h"
+#include "text/FailureText.h"
+#include "text/StringTable.h"
+
+namespace Translated {
+
+namespace {
+
+// A failure of each kind, as the window in use tells it.
+void TellFailures(Player& player) {
+  using enum RuntimeError::Number;
+  Platform::Form window(FixedText("Tool"));
+  Platform::Button Fail(window, {.text = FixedText("Fail"), .isDefault = true, .isCancel = true});
+  window.Show();
+  const auto fail = [&](std::function<void()> action) {
+    Fail.OnClick = std::move(action);
+    player.user.Presses("Enter");
+  };
+  for (const auto number :
+       {InvalidCall, Overflow, OutOfMemory, TypeMismatch, FileNotFound, DeviceError, DiskFull,
+        PermissionDenied, DiskNotReady, PathFileAccess, PathNotFound, FileAlreadyExists}) {
+    fail([number] { throw RuntimeError(number); });
+  }
+  fail([] { throw RuntimeError(PathFileAccess, RuntimeErrorTexts.NameNotUsable, "C:\\?"); });
+  fail([] { throw std::logic_error("never expected"); });
+  fail([] { throw RuntimeError(DeviceError, RuntimeErrorTexts.SystemLibrary, "a.dll"); });
+  fail([] {
+    const RuntimeError failure(DiskFull, RuntimeErrorTexts.SaveHalfDone, "C:\\a");
+    throw RuntimeError::WithCopy(failure, "C:\\b");
+  });
+  // All that may have been done when the system refused.
+  bool isStep = false;
+  for (const LangText& text : TextsOf(RuntimeErrorTexts)) {
+    isStep = isStep || text.key == RuntimeErrorTexts.OpeningFile.key;
+    if (text.key == RuntimeErrorTexts.PutBackTitle.key) break;
+    if (isStep) fail([text] { throw RuntimeError(DeviceError, "", {text, 5}); });
+  }
+  window.GoBack();
+}
+
+}  // namespace
+
+std::vector<Scene> FailureScenes() {
+  return {
+      {"a game that is not installed",
+       [](Player& player) {
+         player.machine.registry = {};
+         player.user.ChoosesMenu({"<XTrack>", "<TNew>"});
+       },
+       {"box <RTETitle>: <RTEGameNotInstalled>"}},
+
+      {"failures",
+       TellFailures,
+       {"box <RTETitle>: <RTEInvalidCall>",
+        "box <RTETitle>: <RTEOverflow>",
+        "box <RTETitle>: <RTEOutOfMemory>",
+        "box <RTETitle>: <RTETypeMismatch>",
+        "box <RTETitle>: <RTEFileNotFound>",
+        "box <RTETitle>: <RTEDeviceError>",
+        "box <RTETitle>: <RTEDiskFull>",
+        "box <RTETitle>: <RTEPermissionDenied>",
+        "box <RTETitle>: <RTEDiskNotReady>",
+        "box <RTETitle>: <RTEPathFileAccess>",
+        "box <RTETitle>: <RTEPathNotFound>",
+        "box <RTETitle>: <RTEFileAlreadyExists>",
+        "box <RTETitle>: <RTENameNotUsable>\r\n<RTEFile> C:\\?",
+        "box <RTETitle>: <RTEUnexpected>",
+        "box <RTETitle>: <RTESystemLibrary>\r\n<RTEFile> a.dll",
+        "box <RTETitle>: <RTESaveHalfDone>\r\n<RTEFile> C:\\a\r\n<RTECopy> C:\\b",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEOpeningFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEReadingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEWritingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEReplacingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTERewritingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTERestoringFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTERenamingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEDeletingFile>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEAskingAttributes>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTESettingAttributes>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEListingFolder>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingFolder>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingWindow>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMenu>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEStartingTimer>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMeasuringTexts>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEShowingFileDialog>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEOpeningSoundDevice>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMutex>: <RTESystemError> 5"}},
+
+      {"files of an earlier run that were half saved",
+       [](Player& player) {
+         for (const LangText& text : {RuntimeErrorTexts.PutBack, RuntimeErrorTexts.NotPutBack}) {
+           player.shown.push_back("box " + GetLangString(RuntimeErrorTexts.PutBackTitle) + ": " +
+                                  SaveNoteText({text, "C:\\a", ""}));
+         }
+       },
+       {"box <RTEPutBackTitle>: <RTEPutBack>\r\n<RTEFile> C:\\a",
+        "box <RTEPutBackTitle>: <RTENotPutBack>\r\n<RTEFile> C:\\a"}},
+  };
+}
+
+}  // namespace Translated
