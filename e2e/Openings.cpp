@@ -59,6 +59,11 @@ std::vector<Opening> Openings() {
          pack.Press("Escape");
          pack.WaitForMain();
        }},
+      {"IPView", "Personal IP Viewer",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Internet", "Personal IP Viewer"});
+       },
+       WaitForMainWindow},
       {"InputBox", "Parts",
        [](Pack& pack) {
          pack.ChooseMenu({"Track", "Random Track"});

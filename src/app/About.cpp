@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/Addresses.h"
+#include "game/Addresses.h"
 #include "app/AppTexts.h"
 #include "app/Program.h"
 #include "base/RuntimeError.h"

@@ -1,8 +1,9 @@
 #include "app/Interface.h"
 
 #include "app/About.h"
-#include "app/Addresses.h"
 #include "app/AppTexts.h"
+#include "game/Addresses.h"
+#include "internet/IPView.h"
 #include "platform/Executable.h"
 #include "platform/ShellOpen.h"
 #include "records/HighScores.h"
@@ -31,6 +32,10 @@ void RandomTrack() {
 }
 void CheckTrack() {
   TrackManager::CheckTrackMenu();
+}
+
+void ViewPersonalIP() {
+  ShowPersonalIPViewer();
 }
 
 void ViewRecords() {

@@ -11,6 +11,9 @@ void NewTrack();
 void RandomTrack();
 void CheckTrack();
 
+// The viewer of the user's public address takes the main window's place, if the computer is online.
+void ViewPersonalIP();
+
 // The record viewer takes the main window's place, unless there are no records.
 void ViewRecords();
 void CheckRecords();

@@ -72,6 +72,7 @@ SK2UtilityPack::SK2UtilityPack()
   TNew.OnClick = Interface::NewTrack;
   TRandom.OnClick = Interface::RandomTrack;
   TCheck.OnClick = Interface::CheckTrack;
+  IPersonalIPViewer.OnClick = Interface::ViewPersonalIP;
   GHighScores.OnClick = Interface::ViewRecords;
   GCheckScoreFile.OnClick = Interface::CheckRecords;
   HViewDocs.OnClick = Interface::ViewDocumentation;

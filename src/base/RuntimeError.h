@@ -22,6 +22,7 @@ class RuntimeError : public std::runtime_error {
     InvalidCall = 5,
     Overflow = 6,
     OutOfMemory = 7,
+    SubscriptOutOfRange = 9,
     TypeMismatch = 13,
     FileNotFound = 53,
     DeviceError = 57,

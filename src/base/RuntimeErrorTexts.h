@@ -20,6 +20,9 @@ struct RuntimeErrorTextTable {
                          "The file name is too long or holds characters that cannot be used."};
   LangText FileAlreadyExists{"RTEFileAlreadyExists", "There is a file of that name already."};
   LangText SystemLibrary{"RTESystemLibrary", "A part of Windows could not be loaded."};
+  LangText ClipboardInUse{"RTEClipboardInUse",
+                          "The clipboard is in use by another program."};
+  LangText NoProgram{"RTENoProgram", "The program could not be started."};
   LangText Unexpected{"RTEUnexpected", "An unexpected error occurred."};
   LangText SaveHalfDone{
       "RTESaveHalfDone",
@@ -48,6 +51,9 @@ struct RuntimeErrorTextTable {
   LangText MeasuringTexts{"RTEMeasuringTexts", "Measuring texts"};
   LangText ShowingFileDialog{"RTEShowingFileDialog", "Showing a file dialog"};
   LangText OpeningSoundDevice{"RTEOpeningSoundDevice", "Opening the sound device"};
+  LangText OpeningClipboard{"RTEOpeningClipboard", "Opening the clipboard"};
+  LangText FillingClipboard{"RTEFillingClipboard", "Filling the clipboard"};
+  LangText StartingProgram{"RTEStartingProgram", "Starting a program"};
   LangText MakingMutex{"RTEMakingMutex", "Making a mutex"};
 
   // Told when the old contents of a file that was saved only in part are found again.

@@ -42,6 +42,12 @@ struct InternetTextTable {
                            "Are you sure you wish to completely clear the IP list?"};
   LangText ClearIPListTitle{"ClearIPListTitle", "Confirm List Removal"};
 
+  // What may be wrong with what was fetched.
+  LangText AddressPageNotUnderstood{
+      "AddressPageNotUnderstood",
+      "The web page that tells your IP address could not be understood."};
+  LangText DownloadTooLarge{"DownloadTooLarge", "The file that was fetched is too large."};
+
   // The public address viewer.
   LangText NoConnection{"NoConnection",
                         "It seems that you don't have an active internet connection at present. "

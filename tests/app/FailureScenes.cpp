@@ -25,6 +25,8 @@ void TellFailures(Player& player) {
     fail([number] { throw RuntimeError(number); });
   }
   fail([] { throw RuntimeError(PathFileAccess, RuntimeErrorTexts.NameNotUsable, "C:\\?"); });
+  fail([] { throw RuntimeError(PermissionDenied, RuntimeErrorTexts.ClipboardInUse); });
+  fail([] { throw RuntimeError(DeviceError, RuntimeErrorTexts.NoProgram); });
   fail([] { throw std::logic_error("never expected"); });
   fail([] { throw RuntimeError(DeviceError, RuntimeErrorTexts.SystemLibrary, "a.dll"); });
   fail([] {
@@ -67,6 +69,8 @@ std::vector<Scene> FailureScenes() {
         "box <RTETitle>: <RTEPathNotFound>",
         "box <RTETitle>: <RTEFileAlreadyExists>",
         "box <RTETitle>: <RTENameNotUsable>\r\n<RTEFile> C:\\?",
+        "box <RTETitle>: <RTEClipboardInUse>",
+        "box <RTETitle>: <RTENoProgram>",
         "box <RTETitle>: <RTEUnexpected>",
         "box <RTETitle>: <RTESystemLibrary>\r\n<RTEFile> a.dll",
         "box <RTETitle>: <RTESaveHalfDone>\r\n<RTEFile> C:\\a\r\n<RTECopy> C:\\b",
@@ -88,6 +92,9 @@ std::vector<Scene> FailureScenes() {
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEMeasuringTexts>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEShowingFileDialog>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEOpeningSoundDevice>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEOpeningClipboard>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEFillingClipboard>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEStartingProgram>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMutex>: <RTESystemError> 5"}},
 
       {"files of an earlier run that were half saved",

@@ -55,7 +55,7 @@ TEST_F(StartUpStory, TheMenuHasItsItemsInOrder) {
                           "&Track", "  &New (CTRL+N)", "  &Random Track",                         //
                           "  &Check .trk file (CTRL+C)", "  -&Package (CTRL+P)",                  //
                           "&Language", "  -&Change current language",                             //
-                          "&Internet", "  -&Select Server", "  -Personal &IP Viewer",             //
+                          "&Internet", "  -&Select Server", "  Personal &IP Viewer",              //
                           "  -&Package Downloader",                                               //
                           "&Game", "  &Record Viewer", "  &Check Record File",                    //
                           "&Options", "  -Automatically update on startup",                       //

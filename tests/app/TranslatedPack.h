@@ -122,6 +122,7 @@ std::vector<Scene> MainWindowScenes();
 std::vector<Scene> VehicleScenes();
 std::vector<Scene> TrackScenes();
 std::vector<Scene> RecordScenes();
+std::vector<Scene> AddressScenes();
 std::vector<Scene> FailureScenes();
 
 }  // namespace Translated

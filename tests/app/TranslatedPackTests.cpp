@@ -24,6 +24,7 @@ const std::vector<Scene>& Scenes() {
                                VehicleScenes,     //
                                TrackScenes,       //
                                RecordScenes,      //
+                               AddressScenes,     //
                                FailureScenes}) {
       for (Scene& scene : ofTool()) scenes.push_back(std::move(scene));
     }

@@ -64,7 +64,7 @@ TEST_F(UserStory, CopiesAndPastes) {
   servers.Address.SetText("hill");
   user.Presses("Tab");
   user.Presses("Ctrl+X");
-  EXPECT_EQ(user.Clipboard(), "hill");
+  EXPECT_EQ(machine.clipboard.text(), "hill");
   EXPECT_EQ(user.Hears(), "Address, edit, Alt+A");
   user.Presses("Ctrl+V");
   user.Presses("Ctrl+V");

@@ -234,9 +234,10 @@ void Keyboard::PressInTextBox(NativeControl& box, const KeyEvent& key, char char
   const size_t size = box.text.size();
   if (key.shift == Shift::Ctrl && key.code >= 'A' && key.code <= 'Z') {
     if (key.code == 'A') box.SelectAllText();
-    if ((key.code == 'C' || key.code == 'X') && !isEmpty) clipboard_ = SelectedText();
+    if ((key.code == 'C' || key.code == 'X') && !isEmpty)
+      TheMachine().clipboard.SetText(SelectedText());
     if (key.code == 'X' && !isEmpty) Replace(box, selection, "");
-    if (key.code == 'V') Replace(box, selection, clipboard_);
+    if (key.code == 'V') Replace(box, selection, TheMachine().clipboard.text());
     return;
   }
   const auto moveTo = [&](size_t caret) {

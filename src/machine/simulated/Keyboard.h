@@ -17,7 +17,6 @@ class Keyboard {
   void Type(const std::string& text);
 
   std::string SelectedText() const;
-  const std::string& clipboard() const { return clipboard_; }
   const MenuWalk& menu() const { return menu_; }
 
  private:
@@ -27,7 +26,6 @@ class Keyboard {
   void PressInDialog(Window& window, const Platform::KeyEvent& key, char character);
   void PressInTextBox(NativeControl& box, const Platform::KeyEvent& key, char character);
 
-  std::string clipboard_;
   MenuWalk menu_;
 };
 

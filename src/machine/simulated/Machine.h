@@ -5,11 +5,13 @@
 
 #include <string>
 
+#include "machine/simulated/ClipboardState.h"
 #include "machine/simulated/Clock.h"
 #include "machine/simulated/Complaints.h"
 #include "machine/simulated/Disk.h"
 #include "machine/simulated/Executable.h"
 #include "machine/simulated/Faults.h"
+#include "machine/simulated/Launches.h"
 #include "machine/simulated/LocaleSettings.h"
 #include "machine/simulated/Mutexes.h"
 #include "machine/simulated/Registry.h"
@@ -17,6 +19,7 @@
 #include "machine/simulated/Shell.h"
 #include "machine/simulated/Speakers.h"
 #include "machine/simulated/User.h"
+#include "machine/simulated/WebSites.h"
 
 namespace Simulated {
 
@@ -45,6 +48,9 @@ class Machine {
   Mutexes mutexes;
   Speakers sound;
   Shell shell;
+  Launches launches;
+  Clipboard clipboard;
+  Web web;
   Screen screen;
   User user;
 };

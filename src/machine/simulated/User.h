@@ -81,7 +81,6 @@ class User {
   std::string SeesWindow() const;
   // The selected part of the focused text box.
   std::string SelectedText() const { return keyboard_.SelectedText(); }
-  const std::string& Clipboard() const { return keyboard_.clipboard(); }
 
   const std::vector<Box>& Boxes() const { return script_.boxes; }
   // The box shown last. There must have been one.
