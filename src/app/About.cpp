@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "game/Addresses.h"
 #include "app/AppTexts.h"
 #include "app/Program.h"
 #include "base/RuntimeError.h"
+#include "game/Addresses.h"
 #include "game/Application.h"
 #include "text/StringTable.h"
 #include "ui/MsgBox.h"

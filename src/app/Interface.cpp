@@ -12,6 +12,7 @@
 #include "tracks/TrackManager.h"
 #include "tracks/Trackmaker.h"
 #include "ui/Messages.h"
+#include "update/Updater.h"
 #include "vehicles/CarManager.h"
 #include "vehicles/NewCar.h"
 
@@ -43,6 +44,10 @@ void ViewRecords() {
 }
 void CheckRecords() {
   RecordManager::CheckRecordsMenu();
+}
+
+void CheckForUpdates() {
+  Updater::CheckForUpdates(false);
 }
 
 void ViewDocumentation() {

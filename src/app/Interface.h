@@ -18,6 +18,9 @@ void ViewPersonalIP();
 void ViewRecords();
 void CheckRecords();
 
+// Looks for a newer version of the pack, and tells what comes of it.
+void CheckForUpdates();
+
 // Opens the help file beside the program, or a web site. If that cannot be, the system tells the
 // user; the pack reports nothing.
 void ViewDocumentation();

@@ -13,6 +13,7 @@
 #include "game/FileDialogs.h"
 #include "platform/NamedMutex.h"
 #include "platform/Sound.h"
+#include "update/AutoUpdate.h"
 #include "update/Updater.h"
 
 namespace {
@@ -78,16 +79,29 @@ SK2UtilityPack::SK2UtilityPack()
   HViewDocs.OnClick = Interface::ViewDocumentation;
   HWGLW.OnClick = Interface::VisitPublisher;
   HWORV.OnClick = Interface::VisitMaker;
+  OAutoUpdate.OnClick = [this] { OAutoUpdate_Click(); };
+  HCheckForUpdates.OnClick = Interface::CheckForUpdates;
   HAbout.OnClick = Interface::ShowAbout;
 }
 
 void SK2UtilityPack::Form_Load() {
   Try([] { Updater::RemoveLeftOverUpdater(); });
+  Try([this] { OAutoUpdate.SetChecked(Updater::ReadAutoUpdateSetting()); });
+  // Before anything is shown: a version that is about to be replaced need not begin.
+  Try([] {
+    if (Updater::IsAutoUpdateOn()) Updater::CheckForUpdates(true);
+  });
+  if (Platform::HasProgramEnded()) return;
   Try([this] { SetTitle(Program::Title(Platform::ReadProgramVersion())); });
   Try([] { Platform::HoldNamedMutex("ORVSK2Pack"); });
   Try(Platform::OpenSoundDevice);
   Try(TranslateSharedDialogs);
   Try([this] { TranslateMenu(); });
+}
+
+void SK2UtilityPack::OAutoUpdate_Click() {
+  Updater::ToggleAutoUpdate();
+  OAutoUpdate.SetChecked(Updater::IsAutoUpdateOn());
 }
 
 void SK2UtilityPack::Form_KeyDown(Platform::KeyEvent& key) {

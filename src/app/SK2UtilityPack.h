@@ -19,6 +19,7 @@ class SK2UtilityPack final : public Platform::Form {
 
   // The whole start-up. A step that fails is skipped.
   void Form_Load();
+  void OAutoUpdate_Click();  // the check mark follows the option
   // Ctrl+N, Ctrl+P and Ctrl+C, with Ctrl alone, open the choosers.
   void Form_KeyDown(Platform::KeyEvent& key);
 };

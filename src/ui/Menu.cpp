@@ -20,6 +20,7 @@ MenuItem::MenuItem(MenuItem& parent, const Options& options)
 }
 
 void MenuItem::SetChecked(bool isChecked) {
+  if (isChecked == isChecked_) return;
   const bool wasChecked = std::exchange(isChecked_, isChecked);
   try {
     if (form_.view()) form_.view()->MenuChanged();

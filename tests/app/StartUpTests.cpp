@@ -16,6 +16,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 const std::string LanguageFile = "C:\\Program Files\\SK2Pack\\sk2pack.lng";
+const std::string SettingsFile = "C:\\Program Files\\SK2Pack\\sk2pack.cfg";
 const std::string Updater = "C:\\Program Files\\SK2Pack\\orvsk2packupdater.exe";
 
 // The menu as a user walks it, one line an item: two blanks a level, "-" before a greyed item.
@@ -49,18 +50,18 @@ TEST_F(StartUpStory, TheTitleIsReadFromTheExecutable) {
 TEST_F(StartUpStory, TheMenuHasItsItemsInOrder) {
   StartPack();
   EXPECT_THAT(MainMenu(),
-              ElementsAre("&File", "  &Close (Alt+F4)",                                           //
-                          "&Vehicle", "  &New (CTRL+N)", "  &Check .vhc file (CTRL+C)",           //
-                          "  -&Package (CTRL+P)",                                                 //
-                          "&Track", "  &New (CTRL+N)", "  &Random Track",                         //
-                          "  &Check .trk file (CTRL+C)", "  -&Package (CTRL+P)",                  //
-                          "&Language", "  -&Change current language",                             //
-                          "&Internet", "  -&Select Server", "  Personal &IP Viewer",              //
-                          "  -&Package Downloader",                                               //
-                          "&Game", "  &Record Viewer", "  &Check Record File",                    //
-                          "&Options", "  -Automatically update on startup",                       //
-                          "&Help", "  View &Documentation", "  &Visit Websites",                  //
-                          "    &Gloamworks", "    &Orvane Interactive", "  -&Check for Updates",  //
+              ElementsAre("&File", "  &Close (Alt+F4)",                                          //
+                          "&Vehicle", "  &New (CTRL+N)", "  &Check .vhc file (CTRL+C)",          //
+                          "  -&Package (CTRL+P)",                                                //
+                          "&Track", "  &New (CTRL+N)", "  &Random Track",                        //
+                          "  &Check .trk file (CTRL+C)", "  -&Package (CTRL+P)",                 //
+                          "&Language", "  -&Change current language",                            //
+                          "&Internet", "  -&Select Server", "  Personal &IP Viewer",             //
+                          "  -&Package Downloader",                                              //
+                          "&Game", "  &Record Viewer", "  &Check Record File",                   //
+                          "&Options", "  Automatically update on startup",                       //
+                          "&Help", "  View &Documentation", "  &Visit Websites",                 //
+                          "    &Gloamworks", "    &Orvane Interactive", "  &Check for Updates",  //
                           "  &About"));
 }
 
@@ -232,8 +233,7 @@ TEST(StartUp, WhateverStepFailsDoesTheOthersInTheirOrder) {
     if (call.starts_with("HoldNamedMutex")) missed = {"no mutex"};
     if (call.starts_with("OpenSoundDevice")) missed = {"no sound"};
     // Nothing but the text that was just looked up.
-    const bool isOfReading =
-        call.starts_with("Open ") || call.starts_with("Size ") || call.starts_with("Read ");
+    const bool isOfReading = call.ends_with(LanguageFile) && !call.starts_with("GetInfo ");
     if (isOfReading) missed = {"Open .wav sound"};
     EXPECT_EQ(Difference(ThingsDone(machine), all), missed);
   });
@@ -245,9 +245,9 @@ TEST(StartUp, WhateverStepFailsDoesTheOthersInTheirOrder) {
   calls.erase(std::unique(calls.begin(), calls.end()), calls.end());
   EXPECT_THAT(calls,
               ElementsAre("FormView::FormView Skidrun2 Utility Pack", "Delete " + Updater,
-                          "ReadProgramVersion", "HoldNamedMutex ORVSK2Pack", "OpenSoundDevice",
-                          "GetInfo " + LanguageFile, "Open " + LanguageFile, "Size " + LanguageFile,
-                          "Read " + LanguageFile, "GetInfo " + LanguageFile,
+                          "Open " + SettingsFile, "ReadProgramVersion", "HoldNamedMutex ORVSK2Pack",
+                          "OpenSoundDevice", "GetInfo " + LanguageFile, "Open " + LanguageFile,
+                          "Size " + LanguageFile, "Read " + LanguageFile, "GetInfo " + LanguageFile,
                           "FormView::MenuChanged Skidrun2 Utility Pack V1.0",
                           "FormView::Show Skidrun2 Utility Pack V1.0"));
 }

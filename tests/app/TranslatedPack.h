@@ -123,6 +123,7 @@ std::vector<Scene> VehicleScenes();
 std::vector<Scene> TrackScenes();
 std::vector<Scene> RecordScenes();
 std::vector<Scene> AddressScenes();
+std::vector<Scene> UpdateScenes();
 std::vector<Scene> FailureScenes();
 
 }  // namespace Translated

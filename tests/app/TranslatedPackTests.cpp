@@ -10,7 +10,6 @@
 #include "language/LanguageTexts.h"
 #include "packaging/PackagingTexts.h"
 #include "tests/app/TranslatedPack.h"
-#include "update/UpdateTexts.h"
 #include "vehicles/VehicleTexts.h"
 
 namespace Translated {
@@ -25,6 +24,7 @@ const std::vector<Scene>& Scenes() {
                                TrackScenes,       //
                                RecordScenes,      //
                                AddressScenes,     //
+                               UpdateScenes,      //
                                FailureScenes}) {
       for (Scene& scene : ofTool()) scenes.push_back(std::move(scene));
     }
@@ -44,7 +44,6 @@ std::set<std::string> TextsOfToolsToCome() {
   add(VehicleTexts.IgnitionEngineNonexistentTitle);
   for (const LangText& text : TextsOf(PackagingTexts)) add(text);
   for (const LangText& text : TextsOf(InternetTexts)) add(text);
-  for (const LangText& text : TextsOf(UpdateTexts)) add(text);
   for (const LangText& text : TextsOf(LanguageTexts)) add(text);
   return keys;
 }

@@ -1,0 +1,58 @@
+#include "update/Versions.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "base/LineReader.h"
+#include "platform/LetterCase.h"
+#include "platform/Numbers.h"
+
+namespace Versions {
+
+namespace {
+
+std::vector<std::string_view> Parts(std::string_view version) {
+  std::vector<std::string_view> parts;
+  for (;;) {
+    const size_t dot = version.find('.');
+    parts.push_back(version.substr(0, dot));
+    if (dot == std::string_view::npos) return parts;
+    version.remove_prefix(dot + 1);
+  }
+}
+
+}  // namespace
+
+std::string VersionIn(std::string_view records, std::string_view product,
+                      std::string_view separator) {
+  const std::string wanted = Platform::LowerCase(product);
+  std::string version = NoVersion;
+  for (const std::string& record : LinesOf(records)) {
+    const std::string line = Platform::LowerCase(record);
+    const size_t at = line.find(separator);
+    if (at == std::string::npos) return InvalidVersionFile;
+    if (line.substr(0, at) == wanted) version = line.substr(at + separator.size());
+  }
+  return version;
+}
+
+Comparison Compare(std::string_view version, const Platform::ProgramVersion& program) {
+  std::string whole(version);
+  if (whole.find('.') == std::string::npos) whole += ".0.0";
+  const std::vector<std::string_view> parts = Parts(whole);
+  const std::array<int, 3> own = {program.major, program.minor, program.revision};
+  if (parts.size() != own.size()) return Invalid;
+  // All three must be numbers before any of them is converted, which may fail.
+  for (const std::string_view part : parts) {
+    if (!Platform::ParseNumber(part)) return Invalid;
+  }
+  std::array<int32_t, 3> numbers{};
+  for (size_t i = 0; i < own.size(); ++i) numbers[i] = Platform::ParseInt32(parts[i]);
+  for (size_t i = 0; i < own.size(); ++i) {
+    if (numbers[i] != own[i]) return numbers[i] > own[i] ? Newer : Older;
+  }
+  return Same;
+}
+
+}  // namespace Versions
