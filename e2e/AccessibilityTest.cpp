@@ -168,6 +168,19 @@ TEST_F(Accessibility, UselessFocusOnAListWithoutASelectedRow) {
   EXPECT_THAT(Broken(), Contains(StartsWith("UselessFocus")));
 }
 
+TEST_F(Accessibility, ListWithoutASelectedRowBeforeABoxToTypeIn) {
+  SendMessageA(list_, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+  // The box moves behind the list, with its label before it.
+  SetWindowPos(nameLabel_, list_, 10, 195, 200, 24, 0);
+  SetWindowPos(name_, nameLabel_, 10, 220, 200, 24, 0);
+  MoveWindow(ok_, 10, 250, 200, 24, TRUE);
+  MoveWindow(cancel_, 10, 280, 200, 24, TRUE);
+  SetFocus(list_);
+  EXPECT_THAT(Broken(), IsEmpty());
+  SendMessageA(name_, EM_SETREADONLY, TRUE, 0);
+  EXPECT_THAT(Broken(), ElementsAre(StartsWith("UselessFocus")));
+}
+
 TEST_F(Accessibility, UselessFocusOnADisabledBox) {
   EnableWindow(name_, FALSE);
   EXPECT_THAT(Broken(), Contains(StartsWith("UselessFocus")));

@@ -76,7 +76,8 @@ TEST_P(Keys, TheAccessKeyOfALabelMovesTheFocusToItsControl) {
             "TracksPrompt=Select a &track:\r\nTimePrompt=T&ime:\r\nTrackViewer=Track &Viewer\r\n"
             "LengthPrompt=&Length:\r\nSurfacePrompt=&Surface:\r\nCurvePrompt=&Curve:\r\n"
             "TrackPartsQuestionText=&How many?\r\nSelectItem=Select an &item:\r\n"
-            "InternalSoundsText=So&unds:\r\n");
+            "InternalSoundsText=So&unds:\r\nLanguageChangerText=Select &Language:\r\n"
+            "SelectIPPrompt=IP &List:\r\nIPTextPrompt=&IP:\r\n");
   const Window window = Open();
   int keys = 0;
   for (const Window& control : TabStops(window)) {

@@ -36,6 +36,16 @@ std::vector<Opening> Openings() {
          pack.ChooseMenu({"Game", "Record Viewer"});
        },
        WaitForMainWindow},
+      {"LanguageChanger", "Change current language",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Language", "Change current language"});
+       },
+       WaitForMainWindow},
+      {"ServerManager", "Select Server",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Internet", "Select Server"});
+       },
+       WaitForMainWindow},
       {"Trackmaker", "SK2 Trackmaker by Orvane Interactive", OpenTrackEditor, WaitForMainWindow},
       {"TrackParts", "New track part",
        [](Pack& pack) {

@@ -50,9 +50,9 @@ TEST_F(StartUp, MenusStandInTheirOrder) {
                         "  &Check .trk file (CTRL+C)",               //
                         "  &Package (CTRL+P) [grey]",                //
                         "&Language",                                 //
-                        "  &Change current language [grey]",         //
+                        "  &Change current language",                //
                         "&Internet",                                 //
-                        "  &Select Server [grey]",                   //
+                        "  &Select Server",                          //
                         "  Personal &IP Viewer [grey]",              //
                         "  &Package Downloader [grey]",              //
                         "&Game",                                     //

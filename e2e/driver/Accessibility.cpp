@@ -140,6 +140,15 @@ void CheckAccessKeys(const std::vector<Control>& controls, Report& report) {
   }
 }
 
+// True if a box to type in stands behind the list: the buttons act on what is in there, and a row
+// that was heard as selected without having been chosen would have nothing to do with it.
+bool IsChosenIntoABox(const std::vector<Control>& controls, const Window& list) {
+  auto next = std::find_if(controls.begin(), controls.end(),
+                           [&](const Control& control) { return control.window == list; });
+  if (next != controls.end()) next = std::find_if(next + 1, controls.end(), IsInteractive);
+  return next != controls.end() && next->window.IsClass("Edit") && !(next->style & ES_READONLY);
+}
+
 void CheckFocus(const Window& window, const std::vector<Control>& controls, Report& report) {
   const auto focus = window.focus();
   const bool isEmpty = std::none_of(controls.begin(), controls.end(), IsInteractive);
@@ -151,7 +160,7 @@ void CheckFocus(const Window& window, const std::vector<Control>& controls, Repo
              !focus->IsEnabled()) {
     report.Add("UselessFocus", "the focus is on no usable control, but on " + focus->className());
   } else if (focus->IsClass("ListBox") && focus->Ask(LB_GETCOUNT).value_or(0) > 0 &&
-             focus->Ask(LB_GETCURSEL).value_or(-1) < 0) {
+             focus->Ask(LB_GETCURSEL).value_or(-1) < 0 && !IsChosenIntoABox(controls, *focus)) {
     report.Add("UselessFocus", "the list \"" + focus->name() + "\" has rows, but none is selected");
   }
 }

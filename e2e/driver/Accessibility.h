@@ -24,7 +24,10 @@ namespace E2e {
 //   NoEscape              one is pressed by Escape
 //   SharedAccessKey       no two buttons or labels have the same access key
 //   SharedMenuKey         nor have two items of the same menu
-//   UselessFocus          the focus is on a usable control; if that is a list, a row is selected
+//   UselessFocus          the focus is on a usable control; if that is a list, a row is selected.
+//   None
+//                         need be where a box to type in stands behind the list: the buttons act on
+//                         what that holds, and it is empty or typed until a row is chosen
 //   FocusNotOnWindow      a window without controls has the focus itself
 //   UnusualList           a list is the system's plain one, and can be scrolled
 //   CutText               captions and labels are shown whole

@@ -2,8 +2,11 @@
 
 #include "app/About.h"
 #include "app/AppTexts.h"
+#include "base/PerRun.h"
 #include "game/Addresses.h"
 #include "internet/IPView.h"
+#include "internet/ServerManager.h"
+#include "language/LanguageChanger.h"
 #include "platform/Executable.h"
 #include "platform/ShellOpen.h"
 #include "records/HighScores.h"
@@ -35,6 +38,13 @@ void CheckTrack() {
   TrackManager::CheckTrackMenu();
 }
 
+void ChangeLanguage() {
+  ShowLanguageChanger();
+}
+
+void SelectServer() {
+  PerRun<ServerManager>().LoadIPList();
+}
 void ViewPersonalIP() {
   ShowPersonalIPViewer();
 }

@@ -11,6 +11,10 @@ void NewTrack();
 void RandomTrack();
 void CheckTrack();
 
+// The language changer takes the main window's place, unless no language is installed.
+void ChangeLanguage();
+
+void SelectServer();
 // The viewer of the user's public address takes the main window's place, if the computer is online.
 void ViewPersonalIP();
 

@@ -73,6 +73,8 @@ SK2UtilityPack::SK2UtilityPack()
   TNew.OnClick = Interface::NewTrack;
   TRandom.OnClick = Interface::RandomTrack;
   TCheck.OnClick = Interface::CheckTrack;
+  LPChangeLang.OnClick = Interface::ChangeLanguage;
+  IServerSelect.OnClick = Interface::SelectServer;
   IPersonalIPViewer.OnClick = Interface::ViewPersonalIP;
   GHighScores.OnClick = Interface::ViewRecords;
   GCheckScoreFile.OnClick = Interface::CheckRecords;

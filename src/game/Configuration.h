@@ -18,7 +18,7 @@ enum class IfMissing {
 // The game keeps the file hidden, and a player may have protected it: it is rewritten all the same,
 // and is hidden and nothing else afterwards. Fails as Path does, with FileNotFound as IfMissing
 // says, and as Platform::WriteWholeFile does: the configuration is then as before, its attributes
-// included.
+// included. Only where it could be written but not be hidden does it hold the new value already.
 void Save(const std::string& name, const std::string& value, IfMissing ifMissing);
 
 }  // namespace Configuration

@@ -55,8 +55,8 @@ TEST_F(StartUpStory, TheMenuHasItsItemsInOrder) {
                           "  -&Package (CTRL+P)",                                                //
                           "&Track", "  &New (CTRL+N)", "  &Random Track",                        //
                           "  &Check .trk file (CTRL+C)", "  -&Package (CTRL+P)",                 //
-                          "&Language", "  -&Change current language",                            //
-                          "&Internet", "  -&Select Server", "  Personal &IP Viewer",             //
+                          "&Language", "  &Change current language",                             //
+                          "&Internet", "  &Select Server", "  Personal &IP Viewer",              //
                           "  -&Package Downloader",                                              //
                           "&Game", "  &Record Viewer", "  &Check Record File",                   //
                           "&Options", "  Automatically update on startup",                       //
@@ -74,7 +74,7 @@ TEST_F(StartUpStory, TheMenuSpeaksTheUsersLanguageButForSuffixesAndWebSites) {
   StartPack();
   const auto menu = MainMenu();
   EXPECT_THAT(menu, testing::IsSupersetOf({"&Datei", "  &Beenden (Alt+F4)", "Fahr&zeug",
-                                           "  -&Sprache wechseln", "  &Rekorde",
+                                           "  &Sprache wechseln", "  &Rekorde",
                                            "  Rekorde &pr\xFC"
                                            "fen",
                                            "    &Gloamworks", "    &Orvane Interactive"}));

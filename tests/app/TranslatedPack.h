@@ -122,6 +122,8 @@ std::vector<Scene> MainWindowScenes();
 std::vector<Scene> VehicleScenes();
 std::vector<Scene> TrackScenes();
 std::vector<Scene> RecordScenes();
+std::vector<Scene> LanguageScenes();
+std::vector<Scene> ServerScenes();
 std::vector<Scene> AddressScenes();
 std::vector<Scene> UpdateScenes();
 std::vector<Scene> FailureScenes();

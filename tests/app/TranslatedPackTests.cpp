@@ -5,9 +5,7 @@
 // TextsOfToolsToCome().
 #include <set>
 
-#include "base/SharedTexts.h"
 #include "internet/InternetTexts.h"
-#include "language/LanguageTexts.h"
 #include "packaging/PackagingTexts.h"
 #include "tests/app/TranslatedPack.h"
 #include "vehicles/VehicleTexts.h"
@@ -23,6 +21,8 @@ const std::vector<Scene>& Scenes() {
                                VehicleScenes,     //
                                TrackScenes,       //
                                RecordScenes,      //
+                               LanguageScenes,    //
+                               ServerScenes,      //
                                AddressScenes,     //
                                UpdateScenes,      //
                                FailureScenes}) {
@@ -35,7 +35,7 @@ const std::vector<Scene>& Scenes() {
 
 // The keys of texts that nothing shows yet, or ever.
 std::set<std::string> TextsOfToolsToCome() {
-  std::set<std::string> keys{SharedTexts.SelectButton.key};
+  std::set<std::string> keys;
   const auto add = [&keys](const LangText& text) {
     if (text.key) keys.insert(text.key);
   };
@@ -43,8 +43,11 @@ std::set<std::string> TextsOfToolsToCome() {
   add(VehicleTexts.IgnitionEngineNonexistentText);
   add(VehicleTexts.IgnitionEngineNonexistentTitle);
   for (const LangText& text : TextsOf(PackagingTexts)) add(text);
-  for (const LangText& text : TextsOf(InternetTexts)) add(text);
-  for (const LangText& text : TextsOf(LanguageTexts)) add(text);
+  bool isOfServerList = true;  // its texts are the first ones
+  for (const LangText& text : TextsOf(InternetTexts)) {
+    if (text.key == InternetTexts.NoConnection.key) isOfServerList = false;
+    if (!isOfServerList) add(text);
+  }
   return keys;
 }
 

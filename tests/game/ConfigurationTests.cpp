@@ -58,6 +58,49 @@ TEST_F(ConfigurationStory, AMissingOrEmptyOneIsAFailureForWhoWantsThat) {
   }
 }
 
+TEST_F(ConfigurationStory, OneThatCannotBeReadIsAFailureForBothAndNeverMadeAnew) {
+  for (const IfMissing ifMissing : {IfMissing::Make, IfMissing::Fail}) {
+    machine.files.Put(File, Before);
+    machine.files.SetAttributes(File, Simulated::ReadOnly);
+    machine.files.HoldAlone(File);
+    EXPECT_THROW(Configuration::Save("Language", "German", ifMissing), RuntimeError);
+    machine.files.Release(File);
+    EXPECT_EQ(machine.files.Text(File), Before);
+    EXPECT_EQ(machine.files.Attributes(File), Simulated::ReadOnly);
+  }
+}
+
+TEST_F(ConfigurationStory, TheLanguageAndTheServerAreChangedBesideEachOther) {
+  machine.files.Put(File, "language=x\r\nOldMultiplayer=1\r\n\r\nLanguage=English\r\n");
+  Configuration::Save("Multiplayer", "5.6.7.8", IfMissing::Fail);
+  const std::string kept = "language=x\r\nOldMultiplayer=1\r\nLanguage=";
+  EXPECT_EQ(machine.files.Text(File), kept + "English\r\n") << "the name stands in another line";
+  Configuration::Save("Language", "German", IfMissing::Make);
+  EXPECT_EQ(machine.files.Text(File), kept + "German\r\n");
+  EXPECT_EQ(machine.files.Attributes(File), Simulated::Hidden);
+}
+
+TEST(ConfigurationSweep, AnyFailureLeavesAMissingOneMissingOrWhole) {
+  const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
+    InstallGame(machine, Game);
+    machine.FailAnyCall(after);
+    bool hasFailed = false;
+    try {
+      Configuration::Save("Language", "German", IfMissing::Make);
+    } catch (const RuntimeError&) {
+      hasFailed = true;
+    }
+    if (machine.files.Exists(File)) {
+      EXPECT_EQ(machine.files.Text(File), "Language=German\r\n");
+    }
+    if (!hasFailed) {
+      EXPECT_EQ(machine.files.Attributes(File), Simulated::Hidden);
+    }
+    EXPECT_EQ(machine.files.Names(Game).size(), machine.files.Exists(File) ? 4U : 3U);
+  });
+  EXPECT_GT(calls.size(), 3U) << "hardly a call was made to fail";
+}
+
 TEST(ConfigurationSweep, AnyFailureLeavesTheConfigurationAsItWas) {
   const int attributes = Simulated::ReadOnly + Simulated::Hidden;
   const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {

@@ -218,6 +218,7 @@ Platform::SystemError Disk::CountWrite() {
   switch (*writeFault_) {
     case RuntimeError::DiskFull: return Platform::SystemError::DiskFull;
     case RuntimeError::PermissionDenied: return Platform::SystemError::AccessDenied;
+    case RuntimeError::DiskNotReady: return Platform::SystemError::NotReady;
     default: return Platform::SystemError::DeviceFailed;
   }
 }
