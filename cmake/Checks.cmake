@@ -8,6 +8,7 @@ file(GLOB_RECURSE formatted CONFIGURE_DEPENDS
   ${CMAKE_SOURCE_DIR}/bench/*.h ${CMAKE_SOURCE_DIR}/bench/*.cpp
   ${CMAKE_SOURCE_DIR}/fuzz/*.h ${CMAKE_SOURCE_DIR}/fuzz/*.cpp
   ${CMAKE_SOURCE_DIR}/languages/*.cpp
+  ${CMAKE_SOURCE_DIR}/orec/*.h ${CMAKE_SOURCE_DIR}/orec/*.cpp
   ${CMAKE_SOURCE_DIR}/resources/*.h ${CMAKE_SOURCE_DIR}/resources/*.cpp)
 if(CLANG_FORMAT)
   add_custom_target(check-format
@@ -21,7 +22,7 @@ if(RUN_CLANG_TIDY)
   set(tidy_options -quiet -extra-arg=-Wno-unknown-warning-option)
   if(WIN32)
     # The host's build has the rest.
-    string(APPEND tidied /src/machine/win32/)
+    string(APPEND tidied "/(src/machine|orec)/win32/")
     # clang's search for the headers of MinGW-w64 does not find those of this g++.
     list(APPEND tidy_options -extra-arg=--target=x86_64-w64-mingw32 -checks=-performance-no-int-to-ptr)
     foreach(folder ${CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES})
@@ -30,7 +31,7 @@ if(RUN_CLANG_TIDY)
       endif()
     endforeach()
   else()
-    string(APPEND tidied "/(src|resources/sounds)/")
+    string(APPEND tidied "/(src|resources/sounds|orec)/")
   endif()
   add_custom_target(check-tidy
     COMMAND ${RUN_CLANG_TIDY} ${tidy_options} -p ${CMAKE_BINARY_DIR} ${tidied} VERBATIM)

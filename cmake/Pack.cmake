@@ -30,6 +30,8 @@ add_custom_command(TARGET sk2pack POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/languages/template.lng ${CMAKE_BINARY_DIR}/pack/languages/template.lng
   COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_BINARY_DIR}/pack/LICENSE.txt)
 
+add_dependencies(sk2pack orec)
+
 set(versions ${CMAKE_BINARY_DIR}/versions)
 sk2_pack(sk2alpha 0.0.7 "Skidrun2 Utility Pack")
 sk2_pack(sk2beta 0.5.2 "Skidrun2 Utility Pack")

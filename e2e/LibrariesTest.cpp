@@ -67,6 +67,13 @@ TEST(Libraries, OnlyWhatTheFirstWindowNeedsIsLoadedWithThePack) {
                           "user32.dll"));
 }
 
+// It finds the rest when it is used, in the system's own folder; nobody has to bring a run-time
+// library of its compiler.
+TEST(Libraries, TheRecordingLibraryStandsBesideThePackAndNeedsWindowsAlone) {
+  EXPECT_THAT(ImportedLibraries(Given().pack + "\\orec.dll"),
+              ElementsAre("kernel32.dll", "msvcrt.dll"));
+}
+
 std::string PlantedLibrary() {
   char path[MAX_PATH] = "";
   GetModuleFileNameA(nullptr, path, sizeof path);

@@ -81,8 +81,16 @@ start_display() {
   export DISPLAY
 }
 
+# One second of what the microphone hears: a sine of 440 Hz left and of 660 Hz right, half as loud as
+# can be. Samples of 16 bits, 44100 a second.
+microphone_tone() {
+  perl -e 'for my $i (0 .. 44099) {
+    print pack("s<2", map { 16383 * sin(8 * atan2(1, 1) * $_ * $i / 44100) } 440, 660);
+  }'
+}
+
 # Speakers and a microphone without hardware: what is played can be recorded from speakers.monitor,
-# and what is played into microphone_feed is heard by the microphone.
+# and what is played into microphone_feed is heard by the microphone. That is a tone, without an end.
 start_sound() {
   export XDG_RUNTIME_DIR=$machine_runtime PULSE_RUNTIME_PATH=$machine_runtime/pulse
   export PULSE_SERVER=unix:$machine_runtime/pulse.socket PULSE_STATE_PATH=$machine_runtime/pulse-state
@@ -96,7 +104,12 @@ set-default-source microphone
 END
   start sound env -u PULSE_SERVER pulseaudio -n -F "$machine_folder/pulse.pa" --system=false \
     --daemonize=no --use-pid-file=no --exit-idle-time=-1 --disallow-exit
-  wait_until "the sound server" pactl info
+  wait_until "the sound server" pactl info || return 1
+  # Whole periods, so that its end meets its beginning.
+  microphone_tone >"$machine_folder/tone.raw"
+  start tone sh -c 'while cat "$1"; do :; done | exec pacat --playback --device=microphone_feed \
+    --raw --format=s16le --rate=44100 --channels=2 --latency-msec=20' sh \
+    "$machine_folder/tone.raw"
 }
 
 # Records all that is played, from now on, at the end of FOLDER/speakers.raw: samples of 16 bits,

@@ -48,7 +48,8 @@ SourceFile Read(const fs::path& path) {
 const std::vector<SourceFile>& AllFiles() {
   static const std::vector<SourceFile> files = [] {
     std::vector<SourceFile> all;
-    for (const char* folder : {"src", "tests", "e2e", "bench", "fuzz", "languages", "resources"}) {
+    for (const char* folder :
+         {"src", "tests", "e2e", "bench", "fuzz", "languages", "resources", "orec"}) {
       if (!fs::exists(ProjectFile::Root / folder)) continue;
       for (const auto& entry : fs::recursive_directory_iterator(ProjectFile::Root / folder)) {
         const std::string extension = entry.path().extension().string();
@@ -105,7 +106,11 @@ bool KnowsTheOther(const Floor& from, const Floor& to) {
   return own == "src/update/" && other == "src/internet/";
 }
 
+// What the real machine knows of the recording library.
+constexpr const char* RecordingLibrary = "orec/orec.h";
+
 bool MayInclude(const std::string& from, const std::string& to) {
+  if (to == std::string("src/") + RecordingLibrary) return IsIn(from, "src/machine/win32");
   const Floor* const below = FloorOf(to);
   if (const char* machine = MachineOf(from)) {
     return to.starts_with(machine) || (below && below->height <= HighestUnderMachines);
@@ -262,18 +267,33 @@ TEST(SourceTree, AToolNamesNeitherTheMainWindowNorItsOpener) {
 TEST(SourceTree, OnlyTheRealMachineKnowsWindowsHeaders) {
   // Headers of the C++ library have no extension. These others are not of Windows.
   const auto isOfWindows = [](const std::string& name) {
-    return name.ends_with(".h") && name != "zlib.h" && name != "unistd.h" && !IsIn(name, "sys") &&
-           !IsIn(name, "gtest") && !IsIn(name, "gmock");
+    return name.ends_with(".h") && name != "zlib.h" && name != "unistd.h" && name != "stdint.h" &&
+           !IsIn(name, "sys") && !IsIn(name, "gtest") && !IsIn(name, "gmock");
   };
   for (const SourceFile& file : AllFiles()) {
-    if (IsIn(file.path, "src/machine/win32") || IsIn(file.path, "e2e") ||
-        IsIn(file.path, "bench/start") || Texts::Contains(file.path, "/RealMachine")) {
+    if (IsIn(file.path, "src/machine/win32") || IsIn(file.path, "orec/win32") ||
+        IsIn(file.path, "e2e") || IsIn(file.path, "bench/start") ||
+        Texts::Contains(file.path, "/RealMachine")) {
       continue;
     }
     for (const std::string& name : file.system) {
       EXPECT_FALSE(isOfWindows(name)) << file.path << " includes " << name;
     }
   }
+}
+
+// It is a product of its own: whoever has the folder has all of it.
+TEST(SourceTree, TheRecordingLibraryKnowsNothingOfTheProgram) {
+  int includes = 0;
+  for (const SourceFile& file : AllFiles()) {
+    if (!IsIn(file.path, "orec")) continue;
+    for (const std::string& name : file.quoted) {
+      EXPECT_TRUE(IsIn(name, "orec")) << file.path << " includes " << name;
+      EXPECT_TRUE(!IsIn(name, "orec/win32") || IsIn(file.path, "orec/win32")) << file.path;
+      ++includes;
+    }
+  }
+  EXPECT_GT(includes, 20);
 }
 
 TEST(SourceTree, NoConditionOnTheMachineStandsOutsideOfIt) {

@@ -73,6 +73,7 @@ void TearDown() {
   RealMachine::EmptyQueue();
   RealMachine::ForgetModalWindows();
   RealMachine::PutBackSound();
+  RealMachine::PutBackMicrophones();
   RealMachine::PutBackFiles();
   RealMachine::PutBackSeparators();
   RealMachine::PutBackRegistry();

@@ -15,6 +15,7 @@ void EmptyQueue();
 // Puts back, at the end of a test, what each part changed.
 void PutBackFiles();
 void PutBackSound();
+void PutBackMicrophones();
 void PutBackSeparators();
 void PutBackRegistry();
 void ForgetModalWindows();
@@ -27,11 +28,18 @@ bool RefuseShortening(const std::string& path);
 // The file with all that comes out of the speakers, for E2e::Recording; empty if nobody records it.
 std::string& SpeakersFile();
 
+// For main: puts somebody between the recording library and the system, who lets it see the devices
+// of the tests. Before the library is used.
+void WatchMicrophones();
+
 // For main: if this program was started to open a document of the tests, notes what it was given,
 // and returns true.
 bool WasStartedToOpen(int count, char** arguments);
 
 // The same if it was started to make a save that is cut off.
 bool WasStartedToSave(int count, char** arguments);
+
+// The same if it was started to record until it is ended, or to tell where it finds its library.
+bool WasStartedToRecord(int count, char** arguments);
 
 }  // namespace RealMachine

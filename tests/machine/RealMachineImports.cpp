@@ -21,8 +21,8 @@ void* Exchange(IMAGE_THUNK_DATA& entry, void* function) {
 
 }  // namespace
 
-void* ReplaceImport(const char* wanted, void* function) {
-  auto* const base = reinterpret_cast<BYTE*>(GetModuleHandleA(nullptr));
+void* ReplaceImport(const char* wanted, void* function, void* module) {
+  auto* const base = static_cast<BYTE*>(module ? module : GetModuleHandleA(nullptr));
   const auto& header = *reinterpret_cast<IMAGE_NT_HEADERS*>(
       base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
   const auto& directory = header.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];

@@ -6,6 +6,7 @@
 #include "tests/platform/FilesContract.h"
 #include "tests/platform/FoldersContract.h"
 #include "tests/platform/NumbersContract.h"
+#include "tests/platform/RecorderContract.h"
 #include "tests/platform/RegistryContract.h"
 #include "tests/platform/SavesContract.h"
 #include "tests/platform/SoundContract.h"
@@ -21,9 +22,11 @@
 
 // contract-tests [--speakers=FILE]: the file is the one that E2e::Recording reads.
 int main(int argc, char** argv) {
-  if (RealMachine::WasStartedToOpen(argc, argv) || RealMachine::WasStartedToSave(argc, argv)) {
+  if (RealMachine::WasStartedToOpen(argc, argv) || RealMachine::WasStartedToSave(argc, argv) ||
+      RealMachine::WasStartedToRecord(argc, argv)) {
     return 0;
   }
+  RealMachine::WatchMicrophones();
   testing::InitGoogleTest(&argc, argv);
   for (int i = 1; i < argc; ++i) {
     constexpr std::string_view Option = "--speakers=";

@@ -161,6 +161,23 @@ void LoseSounds() {
   machine->sound.LoseSounds();
 }
 
+void SetMicrophones(const std::vector<std::string>& names) {
+  machine->microphone.devices = names;
+}
+
+void RefuseMicrophones(Platform::RecordingFailure why) {
+  machine->microphone.Refuse(why);
+}
+
+void Speak(const Wave& wave) {
+  machine->microphone.voice = wave;
+  machine->clock.Pass(wave.Seconds());
+}
+
+void UnplugMicrophones() {
+  machine->microphone.Unplug();
+}
+
 std::string DocumentExtension() {
   return ".chm";
 }

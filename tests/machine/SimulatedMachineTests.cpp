@@ -3,6 +3,7 @@
 #include "tests/platform/FilesContract.h"
 #include "tests/platform/FoldersContract.h"
 #include "tests/platform/NumbersContract.h"
+#include "tests/platform/RecorderContract.h"
 #include "tests/platform/RegistryContract.h"
 #include "tests/platform/SavesContract.h"
 #include "tests/platform/SoundContract.h"

@@ -15,7 +15,9 @@
 #include <string>
 #include <vector>
 
+#include "base/Wave.h"
 #include "platform/Executable.h"
+#include "platform/Recorder.h"
 #include "platform/Registry.h"
 
 namespace TestMachine {
@@ -127,6 +129,19 @@ void UnplugSoundDevice();
 void PlugInSoundDevice();
 // The device takes back the memory of all its sounds; what it held is gone.
 void LoseSounds();
+
+// --- Recording ---
+
+// The machine has these recording devices and no others, the first being the default one, until the
+// test ends. Before, none of the following may be called.
+void SetMicrophones(const std::vector<std::string>& names);
+// No device can be opened any more, for that reason.
+void RefuseMicrophones(Platform::RecordingFailure why);
+// What the recording that is going on hears from its beginning on; once in a recording. The wave
+// has its format.
+void Speak(const Wave& wave);
+// The devices go away, and nobody is told. What a recording calls them for may never return.
+void UnplugMicrophones();
 
 // --- Documents ---
 

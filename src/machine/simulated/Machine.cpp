@@ -30,6 +30,7 @@ Machine::~Machine() {
   RunObjects::End();
   for (const std::string& path : files.OpenFiles()) Complain("the program left open: " + path);
   if (!sound.Playing().empty()) Complain("the program left a sound playing");
+  if (microphone.IsOpen()) Complain("the program left a recording open");
   user.ComplainAboutUnusedSteps();
   theMachine = nullptr;
 }

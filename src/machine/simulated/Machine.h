@@ -13,6 +13,7 @@
 #include "machine/simulated/Faults.h"
 #include "machine/simulated/Launches.h"
 #include "machine/simulated/LocaleSettings.h"
+#include "machine/simulated/Microphone.h"
 #include "machine/simulated/Mutexes.h"
 #include "machine/simulated/Registry.h"
 #include "machine/simulated/Screen.h"
@@ -47,6 +48,7 @@ class Machine {
   Executable executable;
   Mutexes mutexes;
   Speakers sound;
+  Microphone microphone;
   Shell shell;
   Launches launches;
   Clipboard clipboard;
