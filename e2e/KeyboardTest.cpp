@@ -71,13 +71,15 @@ TEST_P(Keys, EscapeLeavesFromEachControl) {
 
 TEST_P(Keys, TheAccessKeyOfALabelMovesTheFocusToItsControl) {
   // The English labels have none, those of a translation may.
-  WriteFile(PutProgramFolder() + "\\sk2pack.lng",
-            "NewWhatPrompt=&New:\r\nPackageWhatPrompt=&Package:\r\nCheckWhatText=&Check:\r\n"
-            "TracksPrompt=Select a &track:\r\nTimePrompt=T&ime:\r\nTrackViewer=Track &Viewer\r\n"
-            "LengthPrompt=&Length:\r\nSurfacePrompt=&Surface:\r\nCurvePrompt=&Curve:\r\n"
-            "TrackPartsQuestionText=&How many?\r\nSelectItem=Select an &item:\r\n"
-            "InternalSoundsText=So&unds:\r\nLanguageChangerText=Select &Language:\r\n"
-            "SelectIPPrompt=IP &List:\r\nIPTextPrompt=&IP:\r\n");
+  WriteFile(
+      PutProgramFolder() + "\\sk2pack.lng",
+      "NewWhatPrompt=&New:\r\nPackageWhatPrompt=&Package:\r\nCheckWhatText=&Check:\r\n"
+      "TracksPrompt=Select a &track:\r\nTimePrompt=T&ime:\r\nTrackViewer=Track &Viewer\r\n"
+      "LengthPrompt=&Length:\r\nSurfacePrompt=&Surface:\r\nCurvePrompt=&Curve:\r\n"
+      "TrackPartsQuestionText=&How many?\r\nSelectItem=Select an &item:\r\n"
+      "InternalSoundsText=So&unds:\r\nLanguageChangerText=Select &Language:\r\n"
+      "SelectIPPrompt=IP &List:\r\nIPTextPrompt=&IP:\r\nPackageDownloaderText=SK2 c&omponent:\r\n"
+      "FileListText=&File:\r\n");
   const Window window = Open();
   int keys = 0;
   for (const Window& control : TabStops(window)) {

@@ -74,6 +74,18 @@ std::vector<Opening> Openings() {
          pack.ChooseMenu({"Internet", "Personal IP Viewer"});
        },
        WaitForMainWindow},
+      {"PackageDownloader", "SK2 Package Downloader",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Internet", "Package Downloader"});
+       },
+       WaitForMainWindow},
+      {"FileList", "Download directory",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Internet", "Package Downloader"});
+         pack.WaitForWindow("SK2 Package Downloader");
+         pack.Press("Enter");
+       },
+       WaitForMainWindow},
       {"InputBox", "Parts",
        [](Pack& pack) {
          pack.ChooseMenu({"Track", "Random Track"});

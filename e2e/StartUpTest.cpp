@@ -37,35 +37,35 @@ TEST_F(StartUp, MenusStandInTheirOrder) {
     seen.push_back(std::string(static_cast<size_t>(line.depth) * 2, ' ') + line.caption +
                    (line.isGrey ? " [grey]" : ""));
   }
-  EXPECT_THAT(seen, testing::ElementsAre(                            //
-                        "&File",                                     //
-                        "  &Close (Alt+F4)",                         //
-                        "&Vehicle",                                  //
-                        "  &New (CTRL+N)",                           //
-                        "  &Check .vhc file (CTRL+C)",               //
-                        "  &Package (CTRL+P) [grey]",                //
-                        "&Track",                                    //
-                        "  &New (CTRL+N)",                           //
-                        "  &Random Track",                           //
-                        "  &Check .trk file (CTRL+C)",               //
-                        "  &Package (CTRL+P) [grey]",                //
-                        "&Language",                                 //
-                        "  &Change current language",                //
-                        "&Internet",                                 //
-                        "  &Select Server",                          //
-                        "  Personal &IP Viewer [grey]",              //
-                        "  &Package Downloader [grey]",              //
-                        "&Game",                                     //
-                        "  &Record Viewer",                          //
-                        "  &Check Record File",                      //
-                        "&Options",                                  //
-                        "  Automatically update on startup [grey]",  //
-                        "&Help",                                     //
-                        "  View &Documentation",                     //
-                        "  &Visit Websites",                         //
-                        "    &Gloamworks",                           //
-                        "    &Orvane Interactive",                   //
-                        "  &Check for Updates [grey]",               //
+  EXPECT_THAT(seen, testing::ElementsAre(                     //
+                        "&File",                              //
+                        "  &Close (Alt+F4)",                  //
+                        "&Vehicle",                           //
+                        "  &New (CTRL+N)",                    //
+                        "  &Check .vhc file (CTRL+C)",        //
+                        "  &Package (CTRL+P) [grey]",         //
+                        "&Track",                             //
+                        "  &New (CTRL+N)",                    //
+                        "  &Random Track",                    //
+                        "  &Check .trk file (CTRL+C)",        //
+                        "  &Package (CTRL+P) [grey]",         //
+                        "&Language",                          //
+                        "  &Change current language",         //
+                        "&Internet",                          //
+                        "  &Select Server",                   //
+                        "  Personal &IP Viewer [grey]",       //
+                        "  &Package Downloader",              //
+                        "&Game",                              //
+                        "  &Record Viewer",                   //
+                        "  &Check Record File",               //
+                        "&Options",                           //
+                        "  Automatically update on startup",  //
+                        "&Help",                              //
+                        "  View &Documentation",              //
+                        "  &Visit Websites",                  //
+                        "    &Gloamworks",                    //
+                        "    &Orvane Interactive",            //
+                        "  &Check for Updates",               //
                         "  &About"));
 }
 

@@ -5,6 +5,7 @@
 #include "base/PerRun.h"
 #include "game/Addresses.h"
 #include "internet/IPView.h"
+#include "internet/PackageDownloader.h"
 #include "internet/ServerManager.h"
 #include "language/LanguageChanger.h"
 #include "platform/Executable.h"
@@ -47,6 +48,10 @@ void SelectServer() {
 }
 void ViewPersonalIP() {
   ShowPersonalIPViewer();
+}
+
+void DownloadPackages() {
+  ShowPackageDownloader();
 }
 
 void ViewRecords() {

@@ -18,6 +18,9 @@ void SelectServer();
 // The viewer of the user's public address takes the main window's place, if the computer is online.
 void ViewPersonalIP();
 
+// The package downloader takes the main window's place, if the computer is online.
+void DownloadPackages();
+
 // The record viewer takes the main window's place, unless there are no records.
 void ViewRecords();
 void CheckRecords();

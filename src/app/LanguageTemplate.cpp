@@ -3,6 +3,7 @@
 #include <set>
 
 #include "app/AppTexts.h"
+#include "archive/ArchiveTexts.h"
 #include "base/RuntimeErrorTexts.h"
 #include "base/SharedTexts.h"
 #include "base/SoundTexts.h"
@@ -33,6 +34,7 @@ std::vector<LangText> AllTexts() {
   add(InternetTexts);
   add(UpdateTexts);
   add(SoundTexts);
+  add(ArchiveTexts);
   add(RuntimeErrorTexts);
   return all;
 }

@@ -76,6 +76,7 @@ SK2UtilityPack::SK2UtilityPack()
   LPChangeLang.OnClick = Interface::ChangeLanguage;
   IServerSelect.OnClick = Interface::SelectServer;
   IPersonalIPViewer.OnClick = Interface::ViewPersonalIP;
+  IPackageDownloader.OnClick = Interface::DownloadPackages;
   GHighScores.OnClick = Interface::ViewRecords;
   GCheckScoreFile.OnClick = Interface::CheckRecords;
   HViewDocs.OnClick = Interface::ViewDocumentation;

@@ -45,6 +45,8 @@ struct RuntimeErrorTextTable {
   LangText SettingAttributes{"RTESettingAttributes", "Setting attributes"};
   LangText ListingFolder{"RTEListingFolder", "Listing a folder"};
   LangText MakingFolder{"RTEMakingFolder", "Making a folder"};
+  LangText DeletingFolder{"RTEDeletingFolder", "Deleting a folder"};
+  LangText AskingFreeSpace{"RTEAskingFreeSpace", "Asking for the free space of a disk"};
   LangText MakingWindow{"RTEMakingWindow", "Making a window"};
   LangText MakingMenu{"RTEMakingMenu", "Making a menu"};
   LangText StartingTimer{"RTEStartingTimer", "Starting a timer"};

@@ -54,4 +54,13 @@ void Append(char32_t character, std::string& text) {
   for (int i = more; i-- > 0;) text += static_cast<char>(0x80U | (character >> (6 * i) & 0x3FU));
 }
 
+bool IsWhole(std::string_view text) {
+  while (!text.empty()) {
+    const size_t length = CharacterLength(text);
+    if (length == 0) return false;
+    text.remove_prefix(length);
+  }
+  return true;
+}
+
 }  // namespace Utf8

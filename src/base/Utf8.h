@@ -12,6 +12,9 @@ namespace Utf8 {
 // longer form than needed, half of a surrogate pair and what lies beyond U+10FFFF are none.
 size_t CharacterLength(std::string_view text);
 
+// True if the text consists of whole characters.
+bool IsWhole(std::string_view text);
+
 // The number of the character with which a text begins, which must be a whole one.
 char32_t FirstCharacter(std::string_view text);
 

@@ -19,12 +19,12 @@ TemporaryFile::~TemporaryFile() {
   }
 }
 
-std::string TemporaryFile::Read() const {
-  const auto stamp = Platform::StampOf(path_);
+std::string TemporaryFile::Read(const std::string& path) {
+  const auto stamp = Platform::StampOf(path);
   if (stamp && stamp->size > LargestRead) {
-    throw RuntimeError(RuntimeError::Overflow, InternetTexts.DownloadTooLarge, path_);
+    throw RuntimeError(RuntimeError::Overflow, InternetTexts.DownloadTooLarge, path);
   }
-  std::optional<std::string> bytes = Platform::ReadWholeFile(path_);
-  if (!bytes) throw RuntimeError(RuntimeError::FileNotFound, path_);
+  std::optional<std::string> bytes = Platform::ReadWholeFile(path);
+  if (!bytes) throw RuntimeError(RuntimeError::FileNotFound, path);
   return *std::move(bytes);
 }

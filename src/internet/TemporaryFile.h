@@ -18,9 +18,11 @@ class TemporaryFile {
 
   const std::string& path() const { return path_; }
 
-  // All that is in it. Fails with FileNotFound; with Overflow, cause DownloadTooLarge, if it is
-  // longer than LargestRead; and as Platform::ReadWholeFile does.
-  std::string Read() const;
+  // All that is in it, or in any other file that was fetched. Fails with FileNotFound; with
+  // Overflow, cause DownloadTooLarge, if it is longer than LargestRead; and as
+  // Platform::ReadWholeFile does.
+  std::string Read() const { return Read(path_); }
+  static std::string Read(const std::string& path);
 
  private:
   std::string path_;

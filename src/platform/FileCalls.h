@@ -78,6 +78,10 @@ SystemError Delete(const std::string& path);
 // Gives a file or folder another name in the same volume, which nothing may have yet.
 SystemError Rename(const std::string& from, const std::string& to);
 SystemError MakeFolder(const std::string& path);
+// Deletes a folder in which nothing is.
+SystemError RemoveFolder(const std::string& path);
+// What the user may still write into a folder, in bytes.
+SystemError FreeSpace(const std::string& folder, uint64_t& bytes);
 // Appends what is in a folder, without "." and "..", in the system's order.
 SystemError List(const std::string& folder, std::vector<FolderEntry>& entries);
 

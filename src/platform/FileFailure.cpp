@@ -20,6 +20,7 @@ RuntimeError::Number NumberOf(SystemError error) {
     case SystemError::UserMappedFile:
     case SystemError::DeletePending:
     case SystemError::NetworkAccessDenied: return RuntimeError::PermissionDenied;
+    case SystemError::FolderNotEmpty:
     case SystemError::WriteProtect: return RuntimeError::PathFileAccess;
     case SystemError::NotReady:
     case SystemError::NoMedia: return RuntimeError::DiskNotReady;
@@ -49,6 +50,8 @@ const LangText& TextOf(FileStep step) {
     case FileStep::SettingAttributes: return texts.SettingAttributes;
     case FileStep::Listing: return texts.ListingFolder;
     case FileStep::MakingFolder: return texts.MakingFolder;
+    case FileStep::DeletingFolder: return texts.DeletingFolder;
+    case FileStep::AskingFreeSpace: return texts.AskingFreeSpace;
   }
   return texts.Unexpected;
 }
@@ -64,6 +67,7 @@ bool IsRefusedByKind(const std::string& path, FileStep step) {
     case FileStep::Replacing:
     case FileStep::Rewriting:
     case FileStep::Deleting: return info.isFolder || info.attributes.isReadOnly;
+    case FileStep::DeletingFolder: return !info.isFolder || info.attributes.isReadOnly;
     default: return false;
   }
 }

@@ -23,6 +23,8 @@ enum class FileStep {
   SettingAttributes,
   Listing,
   MakingFolder,
+  DeletingFolder,
+  AskingFreeSpace,
 };
 
 // The RuntimeError that a system's error on a file stands for.

@@ -6,8 +6,8 @@
 
 namespace Platform {
 
-// What changes when another program writes a file: its size in bytes and its last-write time in the
-// machine's finest unit.
+// What changes when another program writes a file: its size in bytes and its last-write time, in
+// steps of 100 nanoseconds since the year 1601, UTC.
 struct FileStamp {
   uint64_t size;
   uint64_t lastWrite;

@@ -150,6 +150,12 @@ void FileWriter::Write(std::string_view bytes) {
   open_->length += bytes.size();
 }
 
+void FileWriter::WriteOver(uint64_t place, std::string_view bytes) {
+  open_->written.Seek(place);
+  open_->written.Write(bytes);
+  open_->written.Seek(open_->length);
+}
+
 size_t FileWriter::ReadBack(uint64_t place, char* buffer, size_t size) {
   open_->written.Seek(std::min(place, open_->length));
   const size_t count = open_->written.Read(buffer, size);

@@ -36,6 +36,15 @@ void SetAttributes(const std::string& path, FileAttributes attributes) {
       path, FileStep::SettingAttributes);
 }
 
+uint64_t FreeSpaceIn(const std::string& folder) {
+  CheckName(folder);
+  uint64_t bytes = 0;
+  const SystemError error = FileCalls::FreeSpace(folder, bytes);
+  // Systems say in different words that there is no such folder.
+  Require(IsMissing(error) ? SystemError::PathNotFound : error, folder, FileStep::AskingFreeSpace);
+  return bytes;
+}
+
 std::vector<FolderEntry> ListFolder(const std::string& path) {
   CheckName(path);
   std::vector<FolderEntry> entries;
@@ -82,6 +91,14 @@ FileReader::FileReader(FileReader&&) noexcept = default;
 
 size_t FileReader::Read(char* buffer, size_t size) {
   return open_->file.Read(buffer, size);
+}
+
+uint64_t FileReader::Size() {
+  return open_->file.Size();
+}
+
+void FileReader::Seek(uint64_t place) {
+  open_->file.Seek(place);
 }
 
 void WriteWholeFile(const std::string& path, std::string_view bytes) {
@@ -168,6 +185,19 @@ bool MakeFolder(const std::string& path) {
     throw RuntimeError(RuntimeError::PathFileAccess, path);
   }
   return false;
+}
+
+bool RemoveFolder(const std::string& path) {
+  CheckName(path);
+  const SystemError error = FileCalls::RemoveFolder(path);
+  FileCalls::Info info;
+  if (error == SystemError::NotADirectory && FileCalls::GetInfo(path, info) == SystemError::None &&
+      !info.isFolder) {
+    throw RuntimeError(RuntimeError::PathFileAccess, path);
+  }
+  if (IsMissing(error)) return false;
+  Require(error, path, FileStep::DeletingFolder);
+  return true;
 }
 
 }  // namespace Platform

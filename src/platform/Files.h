@@ -51,6 +51,10 @@ FileAttributes AttributesOf(const std::string& path);
 // one. A refusal is tried again for up to a second. Fails as AttributesOf does.
 void SetAttributes(const std::string& path, FileAttributes attributes);
 
+// How many bytes of new files the user may still put into a folder. Fails with PathNotFound,
+// PermissionDenied.
+uint64_t FreeSpaceIn(const std::string& folder);
+
 // What is in a folder, hidden entries too, without "." and "..", in the order in which the system
 // gives it. Nothing if there is no such folder. Fails with PermissionDenied, PathFileAccess (a
 // file).
@@ -63,9 +67,9 @@ std::vector<FolderEntry> ListFolder(const std::string& path);
 // Fails with PermissionDenied (another has it for itself, no right), PathFileAccess (a folder).
 std::optional<std::string> ReadWholeFile(const std::string& path);
 
-// A file that is read from its start to its end. While it is open it cannot be deleted or replaced;
-// others may write to it, and what they add is read too. A save by the pack itself rewrites it in
-// place.
+// A file that is read from its start on, or from any place. While it is open it cannot be deleted
+// or replaced; others may write to it, and what they add is read too. A save by the pack itself
+// rewrites it in place.
 class FileReader {
  public:
   // Fails with FileNotFound, PathNotFound, PermissionDenied (another has it for itself, no right),
@@ -77,6 +81,12 @@ class FileReader {
   // Reads the next bytes, up to the given number of them. Returns how many; 0 at the end only.
   // Fails with PermissionDenied (another has locked a part), DeviceError.
   size_t Read(char* buffer, size_t size);
+
+  // How many bytes the file holds now. Fails with DeviceError.
+  uint64_t Size();
+  // What is read next stands at that place; there is nothing to be read beyond the end. Fails with
+  // DeviceError.
+  void Seek(uint64_t place);
 
  private:
   struct Open;
@@ -104,6 +114,10 @@ class FileWriter {
 
   // Adds bytes. Fails with DiskFull.
   void Write(std::string_view bytes);
+
+  // Writes over bytes that have been written before; all of the place must have been. What is
+  // written next still goes to the end. Fails with DiskFull.
+  void WriteOver(uint64_t place, std::string_view bytes);
 
   // Reads what has been written from a place on, up to that many bytes, to compare it before it is
   // finished. Returns how many; 0 at the end only. What is written next still goes to the end.
@@ -147,5 +161,9 @@ bool RemoveFile(const std::string& path);
 // Makes a folder in one that is there. False if it is there already. Fails with PathNotFound,
 // PermissionDenied, PathFileAccess (a file of that name).
 bool MakeFolder(const std::string& path);
+
+// Deletes a folder that is empty. False if there was none. Fails with PermissionDenied (in use),
+// PathFileAccess (not empty, a file, marked read-only).
+bool RemoveFolder(const std::string& path);
 
 }  // namespace Platform

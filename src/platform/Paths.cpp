@@ -28,8 +28,11 @@ bool IsDeviceName(const std::string& name) {
   for (const char* device : {"con", "prn", "aux", "nul", "conin$", "conout$"}) {
     if (stem == device) return true;
   }
-  const bool hasNumber = stem.size() == 4 && stem[3] >= '1' && stem[3] <= '9';
-  return hasNumber && (stem.starts_with("com") || stem.starts_with("lpt"));
+  if (!stem.starts_with("com") && !stem.starts_with("lpt")) return false;
+  // The small raised digits of the Western page count as digits.
+  const std::string number = ToUtf8(stem.substr(3));
+  return (number.size() == 1 && number[0] >= '1' && number[0] <= '9') || number == "\xC2\xB9" ||
+         number == "\xC2\xB2" || number == "\xC2\xB3";
 }
 
 }  // namespace
@@ -53,6 +56,13 @@ bool IsNameUsable(std::string_view path) {
     if (!isDriveColon && Reserved.find(path[i]) != std::string_view::npos) return false;
   }
   return !IsDeviceName(NameOf(path));
+}
+
+bool IsPlainFileName(std::string_view name) {
+  for (size_t i = 0; i < name.size(); i += CharacterLength(name.substr(i))) {
+    if (name[i] == '\\' || name[i] == '/' || name[i] == ':') return false;
+  }
+  return !name.empty() && name.back() != '.' && name.back() != ' ' && IsNameUsable(name);
 }
 
 void CheckName(const std::string& path) {

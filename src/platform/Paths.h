@@ -18,7 +18,12 @@ std::string NameOf(std::string_view path);
 // "con.trk" or "Com1".
 bool IsNameUsable(std::string_view path);
 
-// Fails with RuntimeError PathFileAccess, cause NameNotUsable, if it is not.
+// True if the text, which may come from anywhere, is the name of one file in whatever folder it is
+// put: usable as above, not empty, without folders, a drive or a stream, and without the dots and
+// blanks at its end that the system would cut off. "." and ".." are none.
+bool IsPlainFileName(std::string_view name);
+
+// Fails with RuntimeError PathFileAccess, cause NameNotUsable, if the path is not usable.
 void CheckName(const std::string& path);
 
 // True if the path ends in an extension such as ".trk", whatever its letter case.

@@ -26,6 +26,7 @@ enum class SystemError : uint32_t {
   FileExists = 80,
   DiskFull = 112,
   InvalidName = 123,
+  FolderNotEmpty = 145,
   BadPathName = 161,
   AlreadyExists = 183,
   NameTooLong = 206,

@@ -1,4 +1,5 @@
 // Failures of every kind in the language of keys.
+#include "archive/Refusal.h"
 #include "base/RuntimeError.h"
 #include "platform/InterruptedSave.h"
 #include "tests/app/TranslatedPack.h"
@@ -39,6 +40,9 @@ void TellFailures(Player& player) {
     isStep = isStep || text.key == RuntimeErrorTexts.OpeningFile.key;
     if (text.key == RuntimeErrorTexts.PutBackTitle.key) break;
     if (isStep) fail([text] { throw RuntimeError(DeviceError, "", {text, 5}); });
+  }
+  for (const LangText& text : TextsOf(ArchiveTexts)) {
+    fail([text] { Archive::Refuse(text, "C:\\a.zip", "b"); });
   }
   window.GoBack();
 }
@@ -86,6 +90,8 @@ std::vector<Scene> FailureScenes() {
         "box <RTETitle>: <RTEDeviceError>\r\n<RTESettingAttributes>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEListingFolder>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingFolder>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEDeletingFolder>: <RTESystemError> 5",
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEAskingFreeSpace>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingWindow>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMenu>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEStartingTimer>: <RTESystemError> 5",
@@ -95,7 +101,19 @@ std::vector<Scene> FailureScenes() {
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEOpeningClipboard>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEFillingClipboard>: <RTESystemError> 5",
         "box <RTETitle>: <RTEDeviceError>\r\n<RTEStartingProgram>: <RTESystemError> 5",
-        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMutex>: <RTESystemError> 5"}},
+        "box <RTETitle>: <RTEDeviceError>\r\n<RTEMakingMutex>: <RTESystemError> 5",
+        "box <RTETitle>: <ArchiveNotAZip>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveDamaged>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveEncrypted>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveMethodUnknown>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveInSeveralParts>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveTooLarge>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveLeadsOutside>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveNameNotUsable>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveNameNotInLanguage>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveNameTwice>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveHoldsLink>\r\n<RTEFile> C:\\a.zip: b",
+        "box <RTETitle>: <ArchiveSourceChanged>\r\n<RTEFile> C:\\a.zip: b"}},
 
       {"files of an earlier run that were half saved",
        [](Player& player) {

@@ -57,7 +57,7 @@ TEST_F(StartUpStory, TheMenuHasItsItemsInOrder) {
                           "  &Check .trk file (CTRL+C)", "  -&Package (CTRL+P)",                 //
                           "&Language", "  &Change current language",                             //
                           "&Internet", "  &Select Server", "  Personal &IP Viewer",              //
-                          "  -&Package Downloader",                                              //
+                          "  &Package Downloader",                                               //
                           "&Game", "  &Record Viewer", "  &Check Record File",                   //
                           "&Options", "  Automatically update on startup",                       //
                           "&Help", "  View &Documentation", "  &Visit Websites",                 //

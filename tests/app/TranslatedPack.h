@@ -125,6 +125,7 @@ std::vector<Scene> RecordScenes();
 std::vector<Scene> LanguageScenes();
 std::vector<Scene> ServerScenes();
 std::vector<Scene> AddressScenes();
+std::vector<Scene> DownloadScenes();
 std::vector<Scene> UpdateScenes();
 std::vector<Scene> FailureScenes();
 

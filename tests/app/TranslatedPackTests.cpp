@@ -5,7 +5,6 @@
 // TextsOfToolsToCome().
 #include <set>
 
-#include "internet/InternetTexts.h"
 #include "packaging/PackagingTexts.h"
 #include "tests/app/TranslatedPack.h"
 #include "vehicles/VehicleTexts.h"
@@ -24,6 +23,7 @@ const std::vector<Scene>& Scenes() {
                                LanguageScenes,    //
                                ServerScenes,      //
                                AddressScenes,     //
+                               DownloadScenes,    //
                                UpdateScenes,      //
                                FailureScenes}) {
       for (Scene& scene : ofTool()) scenes.push_back(std::move(scene));
@@ -43,11 +43,6 @@ std::set<std::string> TextsOfToolsToCome() {
   add(VehicleTexts.IgnitionEngineNonexistentText);
   add(VehicleTexts.IgnitionEngineNonexistentTitle);
   for (const LangText& text : TextsOf(PackagingTexts)) add(text);
-  bool isOfServerList = true;  // its texts are the first ones
-  for (const LangText& text : TextsOf(InternetTexts)) {
-    if (text.key == InternetTexts.NoConnection.key) isOfServerList = false;
-    if (!isOfServerList) add(text);
-  }
   return keys;
 }
 

@@ -1,6 +1,7 @@
 // Holds the real machine to the contracts.
 #include <string_view>
 
+#include "tests/archive/ArchiveContract.h"
 #include "tests/machine/RealMachine.h"
 #include "tests/platform/CharactersContract.h"
 #include "tests/platform/FilesContract.h"

@@ -1,4 +1,5 @@
 // Holds the simulated machine to the contracts.
+#include "tests/archive/ArchiveContract.h"
 #include "tests/platform/CharactersContract.h"
 #include "tests/platform/FilesContract.h"
 #include "tests/platform/FoldersContract.h"

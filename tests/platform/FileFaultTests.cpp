@@ -57,6 +57,17 @@ const std::map<std::string, std::function<bool()>>& Services() {
          FileWriter(Path).Write("2");
          return false;
        }},
+      {"FileReader::Size", [] { return FileReader(Path).Size() == 0; }},
+      {"FileReader::Seek",
+       [] {
+         FileReader(Path).Seek(0);
+         return false;
+       }},
+      {"FileWriter::WriteOver",
+       [] {
+         FileWriter(Path).WriteOver(0, "2");
+         return false;
+       }},
       {"FileWriter::ReadBack",
        [] {
          char byte;
@@ -85,6 +96,8 @@ const std::map<std::string, std::function<bool()>>& Services() {
        }},
       {"RemoveFile", [] { return !RemoveFile(Path); }},
       {"MakeFolder", [] { return !MakeFolder("C:\\tracks"); }},
+      {"RemoveFolder", [] { return !RemoveFolder("C:\\empty"); }},
+      {"FreeSpaceIn", [] { return FreeSpaceIn("C:") == 0; }},
   };
   return services;
 }
@@ -123,6 +136,7 @@ TEST(FileFaults, EveryServiceCanBeToldToFailAndKeepsItsCause) {
     for (bool isRefused = true; isRefused;) {
       Simulated::Machine machine;
       machine.files.Put(Path, "1");
+      machine.files.PutFolder("C:\\empty");
       // A refusal that comes once is often made good by another try.
       machine.faults.RefuseFileCallsFrom(Simulated::After{failures}, SystemError::DeviceFailed);
       bool hasFailed = false;

@@ -126,6 +126,30 @@ TEST_F(FilesContract, ReadsReadOnlyAndHiddenFiles) {
   EXPECT_EQ(ReadWholeFile(In("hill.trk")), "1");
 }
 
+TEST_F(FilesContract, ReadsFromAnyPlace) {
+  TestMachine::PutFile(In("hill.trk"), "0123456789");
+  FileReader reader(In("hill.trk"));
+  EXPECT_EQ(reader.Size(), 10u);
+  reader.Seek(8);
+  EXPECT_EQ(ReadToEnd(reader), "89");
+  reader.Seek(0);
+  EXPECT_EQ(ReadToEnd(reader), "0123456789");
+  reader.Seek(uint64_t{1} << 40);
+  EXPECT_EQ(ReadToEnd(reader), "");
+}
+
+TEST_F(FilesContract, WritesOverWhatItHasWritten) {
+  {
+    FileWriter writer(In("hill.trk"));
+    writer.Write("0123456789");
+    writer.WriteOver(2, "ab");
+    writer.Write("x");
+    writer.WriteOver(0, "c");
+    writer.Finish();
+  }
+  EXPECT_EQ(TestMachine::BytesOf(In("hill.trk")), "c1ab456789x");
+}
+
 // --- Names that cannot be used ---
 
 TEST_F(FilesContract, APathOf259CharactersCanBeUsed) {

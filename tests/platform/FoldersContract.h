@@ -200,10 +200,43 @@ TEST_F(FoldersContract, AWriterThatMayNotReplaceFindsANameThatWasTakenMeanwhile)
   EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{"hill.zip"});
 }
 
+// --- RemoveFolder, FreeSpaceIn ---
+
+TEST_F(FoldersContract, RemovesAFolderThatIsEmpty) {
+  TestMachine::PutFolder(In("Deutsch"));
+  EXPECT_TRUE(RemoveFolder(In("deutsch")));
+  EXPECT_FALSE(RemoveFolder(In("deutsch")));
+  EXPECT_FALSE(RemoveFolder(In("nowhere\\deutsch")));
+  EXPECT_EQ(TestMachine::NamesIn(folder), std::vector<std::string>{});
+}
+
+TEST_F(FoldersContract, RemovesNoFolderWithSomethingInIt) {
+  TestMachine::PutFolder(In("sounds"));
+  TestMachine::PutFile(In("sounds\\horn.wav"), "1");
+  EXPECT_TRUE(
+      FailsWith(RuntimeError::PathFileAccess, In("sounds"), [&] { RemoveFolder(In("sounds")); }));
+  EXPECT_EQ(TestMachine::BytesOf(In("sounds\\horn.wav")), "1");
+}
+
+TEST_F(FoldersContract, RemovesNoFileAsAFolder) {
+  TestMachine::PutFile(In("sounds"), "1");
+  EXPECT_TRUE(
+      FailsWith(RuntimeError::PathFileAccess, In("sounds"), [&] { RemoveFolder(In("sounds")); }));
+  EXPECT_EQ(TestMachine::BytesOf(In("sounds")), "1");
+}
+
+TEST_F(FoldersContract, TellsTheFreeSpaceOfTheDisk) {
+  EXPECT_GT(FreeSpaceIn(folder), uint64_t{1} << 20);
+  EXPECT_LT(FreeSpaceIn(folder), uint64_t{1} << 60);
+  EXPECT_TRUE(
+      FailsWith(RuntimeError::PathNotFound, In("nowhere"), [&] { FreeSpaceIn(In("nowhere")); }));
+}
+
 // --- Names of devices ---
 
 TEST_F(FoldersContract, ADeviceIsNoFile) {
-  for (const char* name : {"nul", "NUL.txt", "con.trk", "aux .wav", "Com1", "lpt9.vhc", "conin$"}) {
+  for (const char* name : {"nul", "NUL.txt", "con.trk", "aux .wav", "Com1", "lpt9.vhc", "conin$",
+                           "com\xB9", "LPT\xB2.txt", "com\xB3"}) {
     const std::string path = In(name);
     EXPECT_FALSE(FileExists(path)) << name;
     EXPECT_TRUE(FailsByName(path, [&] { FileReader reader(path); }));
@@ -211,7 +244,7 @@ TEST_F(FoldersContract, ADeviceIsNoFile) {
     EXPECT_TRUE(FailsByName(path, [&] { AppendToFile(path, "1"); }));
     EXPECT_TRUE(FailsByName(path, [&] { WriteWholeFile(path, "1"); }));
   }
-  for (const char* name : {"null", "com", "com0", "console.trk", "lpt10"}) {
+  for (const char* name : {"null", "com", "com0", "console.trk", "lpt10", "com\xB4"}) {
     WriteWholeFile(In(name), "1");
     EXPECT_EQ(TestMachine::BytesOf(In(name)), "1") << name;
   }

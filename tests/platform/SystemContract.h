@@ -9,6 +9,7 @@
 #include "platform/Clock.h"
 #include "platform/Executable.h"
 #include "platform/LetterCase.h"
+#include "platform/LocalTime.h"
 #include "platform/NamedMutex.h"
 #include "platform/Resources.h"
 #include "platform/ShellOpen.h"
@@ -51,6 +52,23 @@ TEST_F(SystemContract, CapitalLettersBecomeSmallOnesBeyondAsciiToo) {
             "c:\\tracks\\hill [1] @z_09.trk");
   EXPECT_EQ(Platform::LowerCase("\xC4RGER \xC9T\xC9 \xD1 \xD7 \xDF \xE4"),
             "\xE4rger \xE9t\xE9 \xF1 \xD7 \xDF \xE4");
+}
+
+// Whatever the zone of the machine is, summer time included.
+TEST_F(SystemContract, LocalTimesAreThoseOfATimeZone) {
+  constexpr uint64_t Minute = 60 * uint64_t{10'000'000};
+  constexpr uint64_t Day = 24 * 60 * Minute;
+  for (const uint64_t moment : {133'000'000'123'456'789u, 133'160'000'000'000'000u}) {
+    const uint64_t shown = Platform::ToLocalTime(moment);
+    EXPECT_EQ((shown - moment) % Minute, 0u);
+    EXPECT_LE(shown - (moment - Day), 2 * Day);
+    EXPECT_EQ(Platform::FromLocalTime(shown), moment);
+  }
+}
+
+TEST_F(SystemContract, TimesBeyondTheCalendarStayAsTheyAre) {
+  const uint64_t never = ~uint64_t{0};
+  EXPECT_EQ(Platform::FromLocalTime(Platform::ToLocalTime(never)), never);
 }
 
 TEST_F(SystemContract, AMutexIsHeldAndMayBeHeldTwice) {

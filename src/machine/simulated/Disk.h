@@ -96,6 +96,9 @@ class Disk {
   // and each flush, since only then it is known that the disk has taken it.
   void FailWrites(After after, RuntimeError::Number number);
 
+  // What the program is told of the free space; what it writes does not change it.
+  void SetFreeSpace(uint64_t bytes) { freeSpace_ = bytes; }
+
   // Where the program keeps temporary files.
   static constexpr const char* TemporaryFolder = "C:\\Windows\\Temp";
   // Makes it a machine that has no such folder.
@@ -110,7 +113,8 @@ class Disk {
   // A new file, or the one that is there, in a folder that must exist.
   DiskEntry& Make(const std::string& path);
   void Erase(const std::string& path);
-  void Written(DiskEntry& entry) { entry.lastWrite = ++writes_; }
+  void Written(DiskEntry& entry) { entry.lastWrite = FirstWrite + ++writes_ * Second; }
+  uint64_t FreeSpace() const { return freeSpace_; }
   // Counts a write; gives the error that FailWrites asked for when its turn has come.
   Platform::SystemError CountWrite();
   bool HasTemporaryFolder() const { return hasTemporaryFolder_; }
@@ -127,12 +131,17 @@ class Disk {
   std::vector<std::string> OpenFiles() const;
 
  private:
+  // The first of October 2026 at eight in the morning, UTC. A second goes by from write to write.
+  static constexpr uint64_t Second = 10'000'000;
+  static constexpr uint64_t FirstWrite = 13435315200ULL * Second;
+
   DiskEntry& MustFind(const std::string& path);
 
   std::map<std::string, std::shared_ptr<DiskEntry>> entries_;  // by path in lower case
   uint64_t writes_ = 0;
   uint64_t made_ = 0;
   size_t largestRead_ = SIZE_MAX;
+  uint64_t freeSpace_ = uint64_t{1} << 40;
   int writesLeft_ = 0;
   std::optional<RuntimeError::Number> writeFault_;
   bool hasTemporaryFolder_ = true;

@@ -290,6 +290,30 @@ SystemError MakeFolder(const std::string& path) {
   return SystemError::None;
 }
 
+SystemError RemoveFolder(const std::string& path) {
+  if (const auto refused = Refusal("RemoveFolder", path, SystemError::AccessDenied)) {
+    return *refused;
+  }
+  const DiskEntry* folder = TheDisk().Find(path);
+  if (!folder) return Missing(path);
+  if (!folder->isFolder) return SystemError::NotADirectory;
+  if (!TheDisk().Inside(path).empty()) return SystemError::FolderNotEmpty;
+  if (folder->attributes & Simulated::ReadOnly || RefusesChange(path)) {
+    return SystemError::AccessDenied;
+  }
+  TheDisk().Erase(path);
+  return SystemError::None;
+}
+
+SystemError FreeSpace(const std::string& folder, uint64_t& bytes) {
+  if (const auto refused = Refusal("FreeSpace", folder, SystemError::DeviceFailed)) return *refused;
+  const DiskEntry* entry = TheDisk().Find(folder);
+  if (!entry) return SystemError::PathNotFound;
+  if (!entry->isFolder) return SystemError::NotADirectory;
+  bytes = TheDisk().FreeSpace();
+  return SystemError::None;
+}
+
 SystemError List(const std::string& folder, std::vector<FolderEntry>& entries) {
   if (const auto refused = Refusal("List", folder, SystemError::AccessDenied)) return *refused;
   const DiskEntry* entry = TheDisk().Find(folder);

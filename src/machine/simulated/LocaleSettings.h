@@ -1,4 +1,4 @@
-// The user's number format and code page on the simulated machine.
+// The user's number format, code page and time zone on the simulated machine.
 #pragma once
 
 #include <string>
@@ -12,6 +12,8 @@ struct LocaleSettings {
   // Windows' Western one; 932, 936, 949 or 950, in which a character may take two bytes; or 65001,
   // UTF-8.
   int codePage = 1252;
+  // The user's time zone, which knows no summer time.
+  int minutesAheadOfUtc = 60;
 
   void SetSeparators(const std::string& newDecimal, const std::string& newThousands) {
     decimal = newDecimal;

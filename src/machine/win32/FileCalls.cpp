@@ -200,6 +200,19 @@ SystemError MakeFolder(const std::string& path) {
   return ResultOf(CreateDirectoryA(path.c_str(), nullptr));
 }
 
+SystemError RemoveFolder(const std::string& path) {
+  return ResultOf(RemoveDirectoryA(path.c_str()));
+}
+
+// What is left to the user, whose share of the disk may be limited. A server's share must have a
+// backslash at its end.
+SystemError FreeSpace(const std::string& folder, uint64_t& bytes) {
+  ULARGE_INTEGER available{};
+  const BOOL isTold = GetDiskFreeSpaceExA((folder + "\\").c_str(), &available, nullptr, nullptr);
+  bytes = available.QuadPart;
+  return ResultOf(isTold);
+}
+
 // By wide names: the system's own narrow ones turn a letter that the code page lacks into one that
 // looks like it, which is the name of another file.
 SystemError List(const std::string& folder, std::vector<FolderEntry>& entries) {
