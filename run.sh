@@ -4,7 +4,8 @@
 #   ./run.sh          until it is closed; without a display or sound hardware, on virtual ones
 #   ./run.sh --once   always on a virtual display; ends after a picture of the main window
 #
-# The copy of the game is out/run/Skidrun2, the program's folder out/run/SK2Pack; both are kept.
+# The copy of the game is out/run/Skidrun2, the program's folder out/run/SK2Pack; both are kept. All
+# that the pack fetches comes from a small web site of its own, for which no internet is needed.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
@@ -53,6 +54,7 @@ else
 fi
 
 start_windows
+start_web
 if [ -n "$is_virtual" ]; then use_virtual_desktop; else use_no_desktop; fi
 if [ ! -d out/run/Skidrun2 ]; then
   echo "Copying the demo game to out/run/Skidrun2"
@@ -65,6 +67,8 @@ cp -r out/windows/pack/. out/run/SK2Pack/
 ln -sfn "$machine_folder/Skidrun2" "$WINEPREFIX/drive_c/Games/Skidrun2"
 ln -sfn "$machine_folder/SK2Pack" "$WINEPREFIX/drive_c/Program Files/SK2Pack"
 register_game 'C:\Games\Skidrun2'
+use_own_web
+echo "The maker's web site is served at http://127.0.0.1:$web_port/, and the pack is led there"
 
 echo "Opening the pack"
 start pack wine 'C:\Program Files\SK2Pack\sk2pack.exe'

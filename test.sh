@@ -67,7 +67,8 @@ machine_suites() {
     wine out/windows/tests/contract-tests.exe "--speakers=out/e2e/machine-$1/speakers.raw"
   gtest_share "the shipped program" "$1" "$machines" \
     wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack --versions=out/windows/versions \
-    --demo=demo --pictures=out/e2e/pictures "--speakers=out/e2e/machine-$1/speakers.raw"
+    --demo=demo --pictures=out/e2e/pictures "--speakers=out/e2e/machine-$1/speakers.raw" \
+    "--web=out/e2e/machine-$1/web"
   if [ "$1" = 1 ]; then
     check_suite bench-start wine out/windows/bench/start/bench-start.exe --brief \
       --pack=out/windows/pack --bare=out/windows/bench/start/barewindow.exe

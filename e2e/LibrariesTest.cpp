@@ -130,6 +130,11 @@ TEST_F(PlantedLibraries, AreNotLoadedWhateverThePackDoes) {
                         "5 lines, 1 parts, track file was checked successfully with no errors."));
   pack.ChooseMenu({"Help", "View Documentation"});
   EXPECT_EQ(opener.WaitForOpened(), programFolder() + "\\sk2pack.chm");
+  pack.ChooseMenu({"Internet", "Personal IP Viewer"});
+  pack.WaitForWindow("Personal IP Viewer");
+  pack.Press("Alt+C");
+  pack.Press("Escape");
+  pack.WaitForMain();
 
   EXPECT_THAT(NamesIn(programFolder()), Not(Contains(testing::EndsWith(".loaded"))));
 }

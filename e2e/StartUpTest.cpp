@@ -53,7 +53,7 @@ TEST_F(StartUp, MenusStandInTheirOrder) {
                         "  &Change current language",         //
                         "&Internet",                          //
                         "  &Select Server",                   //
-                        "  Personal &IP Viewer [grey]",       //
+                        "  Personal &IP Viewer",              //
                         "  &Package Downloader",              //
                         "&Game",                              //
                         "  &Record Viewer",                   //

@@ -125,37 +125,23 @@ is_port_free() {
   ! (exec 3<>"/dev/tcp/127.0.0.1/$1") 2>/dev/null
 }
 
-# Every address that the pack opens is answered from the folder FOLDER/web/HOST, whatever its host.
+# start_web [INSTALLER]: serves the maker's web site, made anew, on a port of its own, whose number is
+# then in web_port. What is put into FOLDER/web/HOST, under the path of its address, is served in
+# place of it.
+#   INSTALLER  what is offered as the pack's next release.
 start_web() {
-  local port user=
-  mkdir -p "$machine_folder/web" "$machine_folder/nginx"
+  local port user= root=$machine_folder/nginx
+  mkdir -p "$machine_folder/web" "$root"
+  python3 server/make-site.py "$root" "$@" || return 1
   [ "$(id -u)" != 0 ] || user="user root;"
   for port in $(shuf -i 20000-30000 -n 20); do
     is_port_free "$port" || continue
-    cat >"$machine_folder/nginx/nginx.conf" <<END
-$user
-worker_processes 1;
-pid "$machine_folder/nginx/nginx.pid";
-error_log stderr;
-events {}
-http {
-  access_log "$machine_folder/nginx/access.log";
-  client_body_temp_path "$machine_folder/nginx/body";
-  proxy_temp_path "$machine_folder/nginx/proxy";
-  fastcgi_temp_path "$machine_folder/nginx/fastcgi";
-  uwsgi_temp_path "$machine_folder/nginx/uwsgi";
-  scgi_temp_path "$machine_folder/nginx/scgi";
-  default_type application/octet-stream;
-  server {
-    listen 127.0.0.1:$port;
-    root "$machine_folder/web/\$host";
-  }
-}
-END
-    rm -f "$machine_folder/nginx/nginx.pid"
-    start web nginx -p "$machine_folder/nginx" -c "$machine_folder/nginx/nginx.conf" -g 'daemon off;'
+    sed "s|@USER@|$user|; s|@ROOT@|$root|g; s|@WEB@|$machine_folder/web|g; s|@PORT@|$port|g" \
+      server/nginx.conf.in >"$root/nginx.conf"
+    rm -f "$root/nginx.pid"
+    start web nginx -p "$root" -c "$root/nginx.conf" -g 'daemon off;'
     # Written once the port is its own: another machine's server may have come first.
-    if wait_until "the web server" test -s "$machine_folder/nginx/nginx.pid"; then
+    if wait_until "the web server" test -s "$root/nginx.pid"; then
       web_port=$port
       return 0
     fi
@@ -214,6 +200,7 @@ use_no_desktop() {
   wineserver -k && wineserver -w || true
 }
 
+# Every address that the pack opens is asked of the server of start_web, whatever its host.
 use_own_web() {
   write_registry '[HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Internet Settings]
 "ProxyEnable"=dword:00000001

@@ -13,6 +13,8 @@ namespace ProjectFile {
 inline const std::filesystem::path Root = ProjectFolder;
 // Where the build has put the sounds of the vehicles.
 inline const std::filesystem::path Sounds = SoundsFolder;
+// The same for what server/make-site.py makes.
+inline const std::filesystem::path Website = WebsiteFolder;
 
 // All bytes of a file; empty if there is none.
 //   path  from the root of the project, such as "help/index.html"; or a whole path.

@@ -13,6 +13,7 @@ struct Places {
   std::string demo;      // the demo game
   std::string pictures;  // where the pictures of the windows go
   std::string speakers;  // the file of Recording; empty if nobody records them
+  std::string web;       // the folder of ServedFile
 };
 Places& Given();
 

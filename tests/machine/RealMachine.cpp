@@ -78,6 +78,8 @@ void TearDown() {
   RealMachine::PutBackSeparators();
   RealMachine::PutBackRegistry();
   RealMachine::PutBackDocuments();
+  RealMachine::PutBackWeb();
+  RealMachine::PutBackClipboard();
 }
 
 void SetSeparators(const std::string& decimal, const std::string& thousands) {

@@ -20,6 +20,8 @@ void PutBackSeparators();
 void PutBackRegistry();
 void ForgetModalWindows();
 void PutBackDocuments();
+void PutBackWeb();
+void PutBackClipboard();
 
 // Lets a file be written that is open already, but not be made shorter, until the test ends. False
 // if this machine cannot do so.

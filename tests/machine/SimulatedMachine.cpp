@@ -1,6 +1,8 @@
 // The simulated machine, as the contract tests ask for it.
 #include <algorithm>
+#include <utility>
 
+#include "base/Utf8.h"
 #include "machine/simulated/Machine.h"
 #include "machine/simulated/OpenBox.h"
 #include "machine/simulated/Window.h"
@@ -13,6 +15,8 @@ namespace TestMachine {
 namespace {
 
 std::unique_ptr<Simulated::Machine> machine;
+// What the user does during the next download.
+std::vector<std::function<void()>> duringDownload;
 
 std::vector<std::string> Sorted(std::vector<std::string> texts) {
   std::sort(texts.begin(), texts.end());
@@ -31,6 +35,15 @@ std::string Described(const Simulated::NativeMenu& items, const char* separator)
   return all;
 }
 
+void DuringDownload(std::function<void()> action) {
+  if (duringDownload.empty()) {
+    machine->user.DuringLongStep([] {
+      for (const auto& each : std::exchange(duringDownload, {})) each();
+    });
+  }
+  duringDownload.push_back(std::move(action));
+}
+
 }  // namespace
 
 void SetUp() {
@@ -39,6 +52,7 @@ void SetUp() {
 }
 
 void TearDown() {
+  duringDownload.clear();
   machine.reset();
 }
 
@@ -184,6 +198,62 @@ std::string DocumentExtension() {
 
 std::string OpenedDocument() {
   return machine->shell.Opened().empty() ? "" : machine->shell.Opened().back();
+}
+
+void Serve(const std::string& url, const std::string& page) {
+  machine->web.Serve(url, page);
+}
+
+void GoOffline() {
+  machine->web.GoOffline();
+}
+
+int RequestsFor(const std::string& url) {
+  const std::vector<std::string>& downloads = machine->web.Downloads();
+  return static_cast<int>(std::count(downloads.begin(), downloads.end(), url));
+}
+
+void PressDuringDownload(const std::string& key) {
+  DuringDownload([key] { machine->user.Presses(key); });
+}
+
+void CloseDuringDownload() {
+  DuringDownload([] { machine->user.ClosesWindow(); });
+}
+
+// A text of the program is in the code page 1252, of which tests use what Latin 1 has as well.
+std::string ClipboardText() {
+  machine->clipboard.LetGo();
+  std::string text;
+  for (const char c : machine->clipboard.text()) {
+    Utf8::Append(static_cast<unsigned char>(c), text);
+  }
+  return text;
+}
+
+void PutClipboardText(const std::string& text) {
+  machine->clipboard.SetText(text);
+}
+
+void HoldClipboardForAMoment() {
+  machine->clipboard.Hold(2);
+}
+
+void HoldClipboard() {
+  machine->clipboard.Hold();
+}
+
+void PutProgram(const std::string& path) {
+  machine->files.Put(path, "MZ and what else a program is made of");
+}
+
+ProgramStart StartOf(const std::string& path) {
+  const auto& launches = machine->launches.All();
+  if (launches.empty() || launches.back().path != path) {
+    ADD_FAILURE() << path << " was not started last";
+    return {};
+  }
+  return {launches.back().arguments, true};
 }
 
 void Press(const std::string& key) {

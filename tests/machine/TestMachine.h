@@ -23,7 +23,8 @@
 namespace TestMachine {
 
 // Before and after each test. SetUp begins a new run of the program. TearDown ends it (its PerRun
-// objects go), and puts back all that the test changed: files, holds, separators, registry values.
+// objects go), and puts back all that the test changed: files, holds, separators, registry values,
+// the web and the clipboard's holder.
 void SetUp();
 void TearDown();
 
@@ -150,6 +151,44 @@ std::string DocumentExtension();
 // Waits until that program has been started with a document, and returns what it was given: its
 // arguments with "|" between them.
 std::string OpenedDocument();
+
+// --- The web ---
+
+// A server of the machine's own answers at that address with a page, until the test ends. The
+// machine's system has never asked for it before.
+void Serve(const std::string& url, const std::string& page);
+// No address is answered any more, until the test ends.
+void GoOffline();
+// How many times an address was asked for.
+int RequestsFor(const std::string& url);
+// In the middle of the next download, before anything has come, the user presses a key, or asks by
+// the close box that the window be closed; all that is named here, in this order.
+void PressDuringDownload(const std::string& key);
+void CloseDuringDownload();
+
+// --- The clipboard ---
+
+// The text on it, as a program reads it that knows all characters: in UTF-8. Whoever held it lets
+// go of it.
+std::string ClipboardText();
+// Another program leaves a text there, in ASCII.
+void PutClipboardText(const std::string& text);
+// Another program has it open, until somebody has tried twice in vain to open it; or until the test
+// ends.
+void HoldClipboardForAMoment();
+void HoldClipboard();
+
+// --- Programs that are started ---
+
+// Makes a program there that notes how it is started, and ends.
+void PutProgram(const std::string& path);
+
+struct ProgramStart {
+  std::string arguments;  // what stands behind the program in its command line
+  bool isMinimised = false;
+};
+// Waits until it has been started.
+ProgramStart StartOf(const std::string& path);
 
 // --- Windows, by keyboard and ear ---
 

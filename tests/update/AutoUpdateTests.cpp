@@ -140,7 +140,7 @@ TEST_F(AutoUpdateStory, AStartSaysNothingOfWhatIsNotNewer) {
 TEST_F(AutoUpdateStory, AnUpdateAtTheStartThatFailsIsTold) {
   machine.files.Put(Settings, "P\r\n");
   Publish("2");
-  machine.web.AnswerOnce(Installer, {0, "probed"});
+  machine.web.AnswerOnce(Installer, {0, "MZ probed"});
   machine.web.AnswerOnce(Installer, {0, {}});
   user.AnswersYes();
   StartPack();

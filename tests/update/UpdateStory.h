@@ -17,7 +17,7 @@ class UpdateStory : public InternetStory {
     machine.executable.version.major = 1;
     machine.executable.version.minor = 1;
     machine.executable.version.revision = 5;
-    machine.web.Serve(Installer, "installer");
+    machine.web.Serve(Installer, "MZ installer");
   }
 
   void Publish(const std::string& version) {

@@ -38,7 +38,7 @@ TEST_F(UpdateStory, YesFetchesTheInstallerStartsItAndEndsThePack) {
   ASSERT_THAT(machine.launches.All(), SizeIs(1));
   EXPECT_EQ(machine.launches.All()[0].path, UpdaterFile);
   EXPECT_EQ(machine.launches.All()[0].arguments, "/SP- /SILENT /SUPPRESSMSGBOXES /NOCANCEL");
-  EXPECT_EQ(machine.launches.All()[0].bytes, "installer");
+  EXPECT_EQ(machine.launches.All()[0].bytes, "MZ installer");
   EXPECT_TRUE(Platform::HasProgramEnded());
   EXPECT_THAT(user.Boxes(), SizeIs(1));
   EXPECT_THAT(machine.web.Downloads(),
@@ -123,8 +123,8 @@ TEST_F(UpdateStory, AVersionBeyondAllMeasureIsAFailure) {
 
 TEST_F(UpdateStory, AResultOfTheDownloadAloneDecidesNothing) {
   Publish("2");
-  machine.web.AnswerOnce(Installer, {0, "probed"});
-  machine.web.AnswerOnce(Installer, {1, "installer"});
+  machine.web.AnswerOnce(Installer, {0, "MZ probed"});
+  machine.web.AnswerOnce(Installer, {1, "MZ installer"});
   StartPack();
   user.AnswersYes();
   Checks();
@@ -149,7 +149,7 @@ TEST_F(UpdateStory, AnOldInstallerIsNeverStarted) {
   Publish("2");
   StartPack();
   machine.files.Put(UpdaterFile, "old");
-  machine.web.AnswerOnce(Installer, {0, "probed"});
+  machine.web.AnswerOnce(Installer, {0, "MZ probed"});
   machine.web.AnswerOnce(Installer, {0, {}});
   user.AnswersYes();
   Checks();
@@ -200,7 +200,7 @@ TEST(UpdateSweep, WhateverFailsThePackStaysOrTheNewInstallerRuns) {
   const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
     machine.web.Serve("http://address.orvane.example/", "...........1.2.3.4");
     machine.web.Serve(server + "versions.dat", "sk2up=2");
-    machine.web.Serve(server + "sk2up.exe", "installer");
+    machine.web.Serve(server + "sk2up.exe", "MZ installer");
     StartPack();
     machine.FailAnyCall(after);
     machine.user.WhenAnythingOpens([&] { machine.user.Presses("Enter"); });

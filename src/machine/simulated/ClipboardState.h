@@ -14,6 +14,7 @@ class Clipboard {
   void Hold(int waits) { waitsLeft_ = waits; }
   // The same for ever.
   void Hold() { waitsLeft_ = -1; }
+  void LetGo() { waitsLeft_ = 0; }
 
   // For the service: true if it is free now. Each call counts as a wait.
   bool Open() {

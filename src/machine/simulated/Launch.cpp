@@ -10,11 +10,17 @@ void LaunchMinimised(const std::string& path, const std::string& arguments) {
   const SystemCause cause{RuntimeErrorTexts.StartingProgram, 2};
   const Simulated::DiskEntry* const program = machine.files.Find(path);
   if (!program) throw RuntimeError(RuntimeError::FileNotFound, path, cause);
-  if (machine.faults.Strikes("LaunchMinimised " + path)) {
+  if (program->held && !program->held->letsRead) {
+    throw RuntimeError(RuntimeError::PermissionDenied, path,
+                       {RuntimeErrorTexts.StartingProgram, 32});
+  }
+  const std::string bytes = Simulated::BytesOf(*program);
+  // With these letters every program of the system begins.
+  if (!bytes.starts_with("MZ") || machine.faults.Strikes("LaunchMinimised " + path)) {
     throw RuntimeError(RuntimeError::DeviceError, RuntimeErrorTexts.NoProgram, path,
                        {RuntimeErrorTexts.StartingProgram, 193});
   }
-  machine.launches.Add({path, arguments, Simulated::BytesOf(*program)});
+  machine.launches.Add({path, arguments, bytes});
 }
 
 }  // namespace Platform

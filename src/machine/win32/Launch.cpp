@@ -16,7 +16,9 @@ constexpr DWORD ElevationRequired = 740;
   const SystemCause cause{RuntimeErrorTexts.StartingProgram, code};
   switch (code) {
     case ERROR_FILE_NOT_FOUND:
-    case ERROR_PATH_NOT_FOUND: throw RuntimeError(RuntimeError::FileNotFound, path, cause);
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_DIRECTORY:  // the folder in which it is to run, which is its own
+      throw RuntimeError(RuntimeError::FileNotFound, path, cause);
     case ERROR_ACCESS_DENIED:
     case ERROR_SHARING_VIOLATION:
     case ElevationRequired: throw RuntimeError(RuntimeError::PermissionDenied, path, cause);
