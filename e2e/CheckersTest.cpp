@@ -1,4 +1,5 @@
 // Checking a vehicle and a track file from the menus.
+#include "e2e/driver/Keyboard.h"
 #include "e2e/driver/PackTest.h"
 
 namespace E2e {
@@ -146,6 +147,30 @@ TEST_F(TrackChecker, CancelledDialog) {
   pack.CancelFileDialog();
   EXPECT_EQ(pack.AnswerBox(), Information("Notice", "No file selected."));
   pack.WaitForMain();
+}
+
+// The track has hardly any parts, but 128 megabytes behind its end, which are read to count the
+// lines: so long that keys can be pressed meanwhile.
+TEST_F(TrackChecker, KeysThatArePressedDuringALongCheckHaveNoEffect) {
+  const std::string path = gameFolder() + "\\tracks\\long.trk";
+  constexpr size_t Rest = 128 << 20;
+  WriteFile(path, "0\r\n0\r\n5000\r\n-1\r\n0\r\n" + std::string(Rest, '\0'));
+  Pack& pack = StartPack();
+  pack.ChooseMenu({"Track", "Check .trk file"});
+  pack.ChooseFile("long.trk");
+  for (const char* keys : {"Enter", "Escape", "Space", "Ctrl+N", "Ctrl+C", "Alt+V", "Alt+F4"}) {
+    Keyboard::Press(keys);
+  }
+  for (const Window& window : TopWindows(pack.program().processId())) {
+    EXPECT_FALSE(IsBox(window)) << "the check was over before the keys were pressed";
+  }
+  EXPECT_EQ(pack.AnswerBox(),
+            Information("File OK",
+                        "6 lines, 1 parts, track file was checked successfully with no errors."))
+      << "none of them has answered it";
+  const Window main = pack.WaitForMain();
+  EXPECT_EQ(TopWindows(pack.program().processId()), std::vector<Window>{main});
+  pack.PressInVain("N");
 }
 
 }  // namespace

@@ -81,8 +81,9 @@ std::string PlantedLibrary() {
   return program.substr(0, program.rfind('\\')) + "\\plantedlibrary.dll";
 }
 
-// Those that the program may want once its window is open. But for version.dll: under Wine that one
-// is in every process with a window, so that it may not be another.
+// Those that the program may want once its window is open. But for version.dll: under Wine the
+// system's own windows need that one, and the pack does not start with another in its place. The
+// test above sees to it that the program does not ask for it by name.
 constexpr const char* LaterLibraries[] = {"bcrypt",  "comdlg32", "dsound",  "ole32", "oleaut32",
                                           "shell32", "urlmon",   "wininet", "winmm"};
 

@@ -54,6 +54,10 @@ Window Pack::WaitForWindow(const std::string& title) {
   });
 }
 
+BoxText Pack::WaitForBox() {
+  return ReadBox(WaitInFront("a message box", IsBox));
+}
+
 BoxText Pack::AnswerBox(const std::string& key) {
   const Window box = WaitInFront("a message box", IsBox);
   const BoxText text = ReadBox(box);

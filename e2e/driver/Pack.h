@@ -28,7 +28,9 @@ class Pack {
   Window WaitForMain();
   // The same for the tool window of that title.
   Window WaitForWindow(const std::string& title);
-  // Waits for a message box, reads it, and answers it with a key; waits until it is gone.
+  // Waits for a message box and reads it.
+  BoxText WaitForBox();
+  // The same, and answers it with a key; waits until it is gone.
   BoxText AnswerBox(const std::string& key = "Enter");
   // Waits for the dialog for choosing a file.
   FileDialogDriver WaitForFileDialog();

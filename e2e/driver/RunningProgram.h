@@ -20,6 +20,9 @@ class RunningProgram {
   // The thread of its windows.
   DWORD threadId() const { return process_.dwThreadId; }
 
+  // With all rights.
+  HANDLE process() const { return process_.hProcess; }
+
   bool IsRunning() const;
   // Waits until it has ended by itself, and returns its exit code.
   DWORD WaitForEnd() const;

@@ -7,34 +7,12 @@
 #include <cstddef>
 #include <numbers>
 
+#include "e2e/driver/Fourier.h"
+
 namespace E2e {
 namespace {
 
 using Spectrum = std::vector<std::complex<double>>;
-
-// In place; the size is a power of two.
-void Transform(Spectrum& values) {
-  const size_t size = values.size();
-  for (size_t i = 1, reversed = 0; i < size; ++i) {
-    size_t bit = size / 2;
-    for (; reversed & bit; bit /= 2) reversed ^= bit;
-    reversed ^= bit;
-    if (i < reversed) std::swap(values[i], values[reversed]);
-  }
-  for (size_t half = 1; half < size; half *= 2) {
-    const std::complex<double> turn =
-        std::polar(1.0, -std::numbers::pi / static_cast<double>(half));
-    for (size_t begin = 0; begin < size; begin += 2 * half) {
-      std::complex<double> factor = 1;
-      for (size_t i = begin; i < begin + half; ++i, factor *= turn) {
-        const auto even = values[i];
-        const auto odd = values[i + half] * factor;
-        values[i] = even + odd;
-        values[i + half] = even - odd;
-      }
-    }
-  }
-}
 
 // How strong each frequency is: the rate is divided among twice as many.
 std::vector<double> Levels(const Sound& sound) {
@@ -47,7 +25,7 @@ std::vector<double> Levels(const Sound& sound) {
                              static_cast<double>(count));
     spectrum[i] = sound.samples[i] * window;
   }
-  Transform(spectrum);
+  Fourier::Transform(spectrum);
   std::vector<double> levels(spectrum.size() / 2);
   for (size_t i = 0; i < levels.size(); ++i) levels[i] = std::abs(spectrum[i]);
   return levels;

@@ -9,6 +9,7 @@
 #include "HornSound.h"
 #include "Ignition.h"
 #include "WaveFile.h"
+#include "platform/Resources.h"
 #include "vehicles/InternalSounds.h"
 
 namespace {
@@ -34,7 +35,7 @@ void MakeSounds(const std::string& folder) {
     for (const std::string_view vehicle : kind.names) {
       const std::string name = std::string(vehicle) + std::string(kind.suffix);
       Write(folder + "/" + name + ".wav", WaveFileOf(SoundOf(kind.variable, VehicleOf(vehicle))));
-      script += name + " " + std::to_string(InternalSoundResourceType) + " \"" + name + ".wav\"\n";
+      script += name + " " + std::to_string(Platform::SoundResource) + " \"" + name + ".wav\"\n";
     }
   }
   // Last, since the build takes it for the sign that all of them are there.

@@ -14,6 +14,7 @@ Chooser::Chooser(const LangText& title, const LangText& prompt, std::vector<Entr
       Submit(*this, {.text = SharedTexts.OKButton, .isDefault = true}),
       Ccl(*this, {.text = SharedTexts.CclButton, .isCancel = true}) {
   OnLoad = [this] { Form_Load(); };
+  // As Cancel. Without a handler the window would be unloaded, and forget its row.
   OnClose = [this] { Ccl_Click(); };
   What.OnDoubleClick = [this] { Submit_Click(); };
   Submit.OnClick = [this] { Submit_Click(); };
@@ -28,6 +29,7 @@ void Chooser::Form_Load() {
 }
 
 void Chooser::Submit_Click() {
+  // Another program, such as a screen reader, can leave the list with no row selected.
   if (What.selected() < 0) return;
   // The chooser goes first, so that a box of the action comes over the window that stays. Left
   // open, it would be what a tool that closes goes back to.

@@ -66,6 +66,8 @@ void CheckForUpdates() {
 }
 
 void ViewDocumentation() {
+  // By its full path: the shell looks for a bare name in the current folder and along the path,
+  // where somebody else may have put a file of that name.
   Platform::ShellOpen(Platform::ProgramFolder() + "\\sk2pack.chm");
 }
 void VisitPublisher() {

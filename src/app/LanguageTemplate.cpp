@@ -22,6 +22,7 @@ std::vector<LangText> AllTexts() {
   const auto add = [&all](const auto& table) {
     for (const LangText& text : TextsOf(table)) all.push_back(text);
   };
+  // Dialogs and menu first, as the start puts them into an empty language file.
   add(FileDialogTexts);
   add(AppTexts);
   add(GameTexts);
@@ -43,6 +44,7 @@ std::string LanguageTemplate() {
   std::string file;
   std::set<std::string> keys;
   for (const LangText& text : AllTexts()) {
+    // Some tables share a key: it gets one line, as the last line of a key is the one that counts.
     if (text.key && keys.insert(text.key).second) {
       file.append(text.key).append("=").append(text.english).append("\r\n");
     }

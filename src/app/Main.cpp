@@ -6,5 +6,6 @@
 int main() {
   StartPack();
   Platform::RunMessageLoop();
+  // By hand, so that objects go in the order that they need; static ones go in one of their own.
   RunObjects::End();
 }

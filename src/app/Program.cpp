@@ -6,6 +6,7 @@ namespace {
 
 std::string Numbers(const Platform::ProgramVersion& version) {
   std::string numbers = std::to_string(version.major) + "." + std::to_string(version.minor);
+  // A revision of zero is nothing to tell apart: "V1.0", not "V1.0.0".
   if (version.revision != 0) numbers += "." + std::to_string(version.revision);
   return numbers;
 }
@@ -13,12 +14,14 @@ std::string Numbers(const Platform::ProgramVersion& version) {
 }  // namespace
 
 ReleaseStatus StatusOf(const Platform::ProgramVersion& version) {
+  // The numbers alone tell: 0.0.x are alphas, 0.x betas.
   if (version.major != 0) return ReleaseStatus::Release;
   return version.minor == 0 ? ReleaseStatus::Alpha : ReleaseStatus::Beta;
 }
 
 std::string VersionSuffix(const Platform::ProgramVersion& version) {
   switch (StatusOf(version)) {
+    // Of an alpha the other two numbers are zero, and say nothing.
     case ReleaseStatus::Alpha: return " Alpha" + std::to_string(version.revision);
     case ReleaseStatus::Beta: return " Beta V" + Numbers(version);
     case ReleaseStatus::Release: break;

@@ -67,6 +67,7 @@ SK2UtilityPack::SK2UtilityPack()
       HAbout(XHelp, {.text = AppTexts.HAbout}) {
   OnLoad = [this] { Form_Load(); };
   OnKeyDown = [this](Platform::KeyEvent& key) { Form_KeyDown(key); };
+  // Of the main window: the program ends with it.
   FClose.OnClick = [this] { Unload(); };
   VNew.OnClick = Interface::NewVehicle;
   VCheck.OnClick = Interface::CheckVehicle;
@@ -95,8 +96,11 @@ void SK2UtilityPack::Form_Load() {
     if (Updater::IsAutoUpdateOn()) Updater::CheckForUpdates(true);
   });
   if (Platform::HasProgramEnded()) return;
+  // Where the version cannot be read, the bare name of the program stays in the title.
   Try([this] { SetTitle(Program::Title(Platform::ReadProgramVersion())); });
   Try([] { Platform::HoldNamedMutex("ORVSK2Pack"); });
+  // The device belongs to this window, which is there by now. Without a device there is no sound
+  // test, and all else works; the test tells why, so the start need not.
   Try(Platform::OpenSoundDevice);
   Try(TranslateSharedDialogs);
   Try([this] { TranslateMenu(); });

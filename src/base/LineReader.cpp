@@ -37,6 +37,7 @@ bool LineReader::Skip() {
 bool LineReader::Take(std::string_view& piece) {
   size_t length = FindCr(buffer_.data() + begin_, end_ - begin_);
   while (length >= end_ - begin_) {
+    // What was searched already is not searched again when more has been read.
     const size_t searched = end_ - begin_;
     if (searched == LongestPiece || !Refill()) break;
     length = searched + FindCr(buffer_.data() + begin_ + searched, end_ - begin_ - searched);
@@ -70,6 +71,7 @@ bool LineReader::PassCr(size_t length) {
 // Goes on behind the LF of the last line end. Returns false at the end of the text.
 bool LineReader::PassLf() {
   if (!endedInCr_) return true;
+  // The LF of a CR LF may be the first byte of the next block.
   if (begin_ == end_ && !Refill()) return false;
   if (buffer_[begin_] == '\n') ++begin_;
   endedInCr_ = false;

@@ -6,6 +6,7 @@ namespace RunObjects {
 
 namespace {
 std::vector<std::function<void()>>& Destroyers() {
+  // Inside a function, so that it is there whichever object of the program comes first.
   static std::vector<std::function<void()>> destroyers;
   return destroyers;
 }

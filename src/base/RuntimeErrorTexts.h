@@ -53,6 +53,9 @@ struct RuntimeErrorTextTable {
   LangText MeasuringTexts{"RTEMeasuringTexts", "Measuring texts"};
   LangText ShowingFileDialog{"RTEShowingFileDialog", "Showing a file dialog"};
   LangText OpeningSoundDevice{"RTEOpeningSoundDevice", "Opening the sound device"};
+  LangText MakingSoundBuffer{"RTEMakingSoundBuffer", "Making a sound buffer"};
+  LangText PlayingSound{"RTEPlayingSound", "Playing a sound"};
+  LangText SettingFrequency{"RTESettingFrequency", "Setting the frequency of a sound"};
   LangText OpeningClipboard{"RTEOpeningClipboard", "Opening the clipboard"};
   LangText FillingClipboard{"RTEFillingClipboard", "Filling the clipboard"};
   LangText StartingProgram{"RTEStartingProgram", "Starting a program"};

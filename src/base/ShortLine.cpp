@@ -19,6 +19,7 @@ void ShortLine::Append(char c) {
   }
   run_ = run_ > 0 && c == last_ ? run_ + 1 : 1;
   last_ = c;
+  // Zeros, blanks and other digits in such numbers say the same, however many: see the header.
   if (run_ > LongestRun) return;
   if (text_.size() - start_ < LongestField) {
     text_ += c;
@@ -33,5 +34,6 @@ void ShortLine::Append(char c) {
 
 // What stands behind the beginning of the last field.
 std::string ShortLine::RestOfField() const {
+  // A "?" keeps what was no number from becoming one by what was left out.
   return (hasOthers_ ? "?" : "") + std::string(tail_.begin(), tail_.end());
 }

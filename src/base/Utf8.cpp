@@ -9,6 +9,7 @@ constexpr char32_t Smallest[] = {0, 0, 0x80, 0x800, 0x10000};
 
 size_t LengthByFirstByte(unsigned char first) {
   if (first < 0x80) return 1;
+  // C0 and C1 too; what they would begin is refused as longer than it need be.
   if (first >= 0xC0 && first < 0xE0) return 2;
   if (first >= 0xE0 && first < 0xF0) return 3;
   if (first >= 0xF0 && first < 0xF8) return 4;

@@ -33,6 +33,7 @@ struct Chunks {
 Chunks FindChunks(std::string_view bytes) {
   constexpr size_t HeaderSize = 8;
   Chunks found;
+  // Behind "RIFF", the size of the rest and "WAVE".
   size_t position = 12;
   while (position < bytes.size() && bytes.size() - position >= HeaderSize) {
     const std::string_view name = bytes.substr(position, 4);
@@ -40,6 +41,7 @@ Chunks FindChunks(std::string_view bytes) {
     const std::string_view body = bytes.substr(position + HeaderSize, size);
     if (name == "fmt " && !found.format) found.format = body;
     if (name == "data" && !found.data) found.data = body;
+    // It reaches beyond the end of the file: nothing can follow.
     if (body.size() < size) break;
     // A chunk of an odd size has one more byte behind it.
     position += HeaderSize + body.size() + (size & 1);
@@ -99,6 +101,7 @@ Wave AtMost16Bits(Wave wave) {
   if (width <= 2) return wave;
   size_t end = 0;
   for (size_t sample = 0; sample < wave.samples.size(); sample += width) {
+    // The low byte comes first: the upper ones are the last two.
     wave.samples[end++] = wave.samples[sample + width - 2];
     wave.samples[end++] = wave.samples[sample + width - 1];
   }

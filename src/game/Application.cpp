@@ -9,6 +9,7 @@ namespace Application {
 namespace {
 
 std::string UninstallValue(const std::string& name) {
+  // Asked anew at each use: the game may be installed, or moved, while the pack runs.
   return Registry::ReadRegistryValue(Platform::RegistryRoot::LocalMachine,
                                      "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"
                                      "{7A3C51E2-94D0-4B6F-A1C8-2E5D90F4B317}_is1",
@@ -23,6 +24,7 @@ std::string GameFolder() {
   if (location.size() < 2) {
     throw RuntimeError(RuntimeError::InvalidCall, GameTexts.GameNotInstalled);
   }
+  // The installer writes a backslash at the end; the pack's own paths begin with one.
   location.pop_back();
   return location;
 }

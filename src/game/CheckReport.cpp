@@ -10,6 +10,7 @@ void Show(int32_t result, const std::string& message, const Titles& titles) {
   if (result == 0) {
     Messages::Show(message, titles.fileOk, Platform::Icon::Information);
   } else if (result == -1) {
+    // The file could not be read, so there is no line to name.
     Messages::Show(message, SharedTexts.Error, Platform::Icon::Critical);
   } else {
     ShowFault(result, message, titles.syntaxError);

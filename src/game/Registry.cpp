@@ -24,6 +24,7 @@ std::string NumberText(std::string_view bytes) {
 std::string AsText(const Platform::RegistryValue& value) {
   switch (value.type) {
     case Platform::RegistryType::String:
+      // Most writers count the NUL at the end as a part of the text, some do not.
       return value.bytes.ends_with('\0') ? value.bytes.substr(0, value.bytes.size() - 1)
                                          : value.bytes;
     case Platform::RegistryType::Number: return NumberText(value.bytes);
@@ -37,6 +38,8 @@ std::string AsText(const Platform::RegistryValue& value) {
 std::string ReadRegistryValue(Platform::RegistryRoot root, const std::string& subkey,
                               const std::string& name) {
   using Platform::RegistryView;
+  // Chosen once for the whole entry. Asked value by value, a copy of the game in each view would
+  // give the folder of one and the version of the other.
   const auto view = Platform::HasRegistryKey(root, RegistryView::Of32Bit, subkey)
                         ? RegistryView::Of32Bit
                         : RegistryView::Of64Bit;

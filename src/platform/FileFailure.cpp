@@ -83,6 +83,7 @@ RuntimeError FailureOf(SystemError error, const std::string& path, FileStep step
       return RuntimeError(RuntimeError::PathFileAccess, RuntimeErrorTexts.NameNotUsable, path,
                           system);
     case SystemError::AccessDenied:
+      // One code for many refusals; what stands there tells which it was.
       if (IsRefusedByKind(path, step)) {
         return RuntimeError(RuntimeError::PathFileAccess, path, system);
       }

@@ -16,6 +16,7 @@ struct FileWriter::Open {
       : path(std::move(finalPath)), ifThere(ifNameIsTaken) {
     RequireWritable(path, ifThere);
     const std::string folder = FolderOf(path);
+    // What a save left that was cut off here goes before this one makes its own.
     RemoveAbandonedSideFiles(folder);
     RemoveAbandonedContents(path);
     OpenFile side;
@@ -35,6 +36,7 @@ struct FileWriter::Open {
 
   ~Open() {
     if (!isWrittenOurs) return;
+    // Closed first, as an open file cannot be deleted.
     written = CheckedFile();
     RemoveWritten();
   }
@@ -58,6 +60,7 @@ struct FileWriter::Open {
 
   // Gives the file what it keeps of the one that it replaces, and its time.
   void Dress(OpenFile& file) {
+    // Asked now and not at the start: what became of the file meanwhile counts.
     FileCalls::Info info;
     const SystemError error =
         Patiently([&] { return FileCalls::GetInfo(path, info); }, IsInUseForReplacing);
@@ -75,6 +78,8 @@ struct FileWriter::Open {
   }
 
   void Finish() {
+    // Before it gets the name: a name that reached the disk before the bytes would be a lost file
+    // after a power cut.
     written.Flush();
     if (target.IsOpen()) return Rewrite();
     Dress(written.file());
@@ -118,6 +123,7 @@ struct FileWriter::Open {
   void Rewrite() {
     try {
       RewriteInPlace(target, path, written);
+      // Last, since each write sets the time anew.
       SetTime(target.file());
     } catch (const RuntimeError& failure) {
       // With the copy of the old contents, these tell later how far it had come.
@@ -168,6 +174,7 @@ void FileWriter::SetLastWrite(uint64_t time) {
 }
 
 void FileWriter::Finish() {
+  // Taken over, so that a side file that could not be renamed goes when this fails.
   const std::unique_ptr<Open> finished = std::move(open_);
   finished->Finish();
 }

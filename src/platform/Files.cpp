@@ -51,6 +51,7 @@ std::vector<FolderEntry> ListFolder(const std::string& path) {
   const SystemError error = FileCalls::List(path, entries);
   if (error == SystemError::None) return entries;
   FileCalls::Info info;
+  // Listing a file fails much as listing a folder that is not there.
   if (FileCalls::GetInfo(path, info) == SystemError::None && !info.isFolder) {
     throw RuntimeError(RuntimeError::PathFileAccess, path);
   }
@@ -69,6 +70,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path) {
   const uint64_t size = file.Size();
   if (size > std::string().max_size()) throw RuntimeError(RuntimeError::OutOfMemory, path);
   std::string bytes(static_cast<size_t>(size), '\0');
+  // Another program may have made it shorter since it was asked for its size.
   bytes.resize(file.ReadFully(bytes.data(), bytes.size()));
   return bytes;
 }
@@ -137,6 +139,7 @@ void AppendToFile(const std::string& path, std::string_view bytes) {
 }
 
 void CopyFileTo(const std::string& from, const std::string& to, IfThere ifThere) {
+  // The goal first: nothing is read for a copy that cannot be made.
   FileWriter copy(to, ifThere);
   {
     FileReader original(from);
@@ -169,6 +172,7 @@ bool RemoveFile(const std::string& path) {
   const SystemError error = FileCalls::Delete(path);
   if (IsMissing(error)) return false;
   Require(error, path, FileStep::Deleting);
+  // What it held must not come back for the next file of that name.
   ForgetInterruptedSave(path);
   return true;
 }
@@ -181,6 +185,7 @@ bool MakeFolder(const std::string& path) {
     return true;
   }
   FileCalls::Info info;
+  // The same code comes where a file has the name.
   if (FileCalls::GetInfo(path, info) == SystemError::None && !info.isFolder) {
     throw RuntimeError(RuntimeError::PathFileAccess, path);
   }

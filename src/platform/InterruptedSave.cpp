@@ -190,6 +190,7 @@ void MakeGoodInterruptedSave(const std::string& path) {
 
   OpenFile file;
   const SystemError missing = OpenToRewrite(path, file);
+  // A file that has gone since is told of as one that another program has changed.
   if (!IsMissing(missing)) require(missing);
   CheckedFile target(std::move(file), path);
   OpenFile meant;
@@ -211,6 +212,7 @@ void MakeGoodInterruptedSave(const std::string& path) {
   } catch (const RuntimeError& failure) {
     throw RuntimeError::WithCopy(failure, files.old);
   }
+  // Last: until the old copy has gone these bytes tell how far the save had come.
   Remove(files.contents);
 }
 

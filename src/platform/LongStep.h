@@ -7,8 +7,9 @@ namespace Platform {
 // Lives as long as the step. Meanwhile nothing that the user does begins anything, whatever loop
 // runs: ours, or one of a library that the step calls. Windows are painted and answer other
 // programs, such as a screen reader, throughout; keys and clicks that come are gone when the step
-// is over, so that none of them is taken for the answer to a box that follows. A step may stand
-// within another; the outer one counts.
+// is over, so that none of them is taken for the answer to a box that follows. A key that is held
+// down then does nothing more until it is let go and pressed anew. A step may stand within another;
+// the outer one counts.
 class LongStep {
  public:
   // The windows are painted before the step begins: what they say of it is then seen and heard.
@@ -43,7 +44,9 @@ class LongStep {
 // Answers sent messages and paints.
 void AnswerMessages() noexcept;
 // Drops what the user did and the program has not handled yet: keys, clicks, and what is asked for
-// by the close box, the taskbar or a menu. The end of the program is not dropped.
+// by the close box, the taskbar or a menu. The end of the program is not dropped. A key that is
+// down is deaf from now on until it is pressed anew: what the keyboard repeats of it is dropped
+// too, whichever window or box it would reach.
 void DropInput() noexcept;
 
 }  // namespace Platform

@@ -69,6 +69,7 @@ void RemoveAbandonedSideFiles(const std::string& folder) {
   std::vector<FolderEntry> entries;
   if (FileCalls::List(folder, entries) != SystemError::None) return;
   for (const FolderEntry& entry : entries) {
+    // One that another copy of the pack is writing is held open, and cannot be deleted.
     if (!entry.isFolder && IsSideFileName(entry.name)) {
       FileCalls::Delete(folder + "\\" + entry.name);
     }

@@ -2,6 +2,7 @@
 #include "platform/Sound.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 #include "base/PerRun.h"
@@ -12,11 +13,11 @@
 
 namespace Platform {
 
-namespace {
-
-[[noreturn]] void FailWithoutSound() {
-  throw RuntimeError(RuntimeError::DeviceError, SoundTexts.SoundNotAvailable);
+void FailWithoutSound(const SystemCause& system) {
+  throw RuntimeError(RuntimeError::DeviceError, SoundTexts.SoundNotAvailable, "", system);
 }
+
+namespace {
 
 // Memory that is lost again and again is not got back for ever.
 constexpr int RestoringTries = 3;
@@ -30,17 +31,18 @@ class Device {
  public:
   bool IsOpen() const { return device_ != nullptr; }
 
-  // True if it is open then.
-  bool Open() {
-    if (!device_ && !isOver_) device_ = SoundDevice::Open();
-    return IsOpen();
+  // Fails if there is none.
+  void Open() {
+    // A sound may outlive the run; the device must not come back for it.
+    if (isOver_) FailWithoutSound({});
+    if (!device_) device_ = SoundDevice::Open();
   }
 
   // The sounds leave the old device before it goes. Those that were playing come back when they
   // are asked whether they play.
-  bool OpenAnew() {
+  void OpenAnew() {
     Close();
-    return Open();
+    Open();
   }
 
   // At the end of the run.
@@ -49,9 +51,10 @@ class Device {
     Close();
   }
 
-  // Null if it refuses.
+  // Fails if it refuses, or is not open.
   std::unique_ptr<SoundOnDevice> Make(const Wave& wave) {
-    return device_ ? SoundOnDevice::Make(*device_, wave) : nullptr;
+    if (!device_) FailWithoutSound({});
+    return SoundOnDevice::Make(*device_, wave);
   }
 
   // The sounds that may have something in the device's memory.
@@ -78,7 +81,7 @@ struct RunsDevice {
 }  // namespace
 
 void OpenSoundDevice() {
-  if (!PerRun<RunsDevice>().device->Open()) FailWithoutSound();
+  PerRun<RunsDevice>().device->Open();
 }
 
 bool IsSoundDeviceOpen() {
@@ -94,18 +97,22 @@ struct SoundBuffer::Sound {
   Sound(const Sound&) = delete;
   Sound& operator=(const Sound&) = delete;
 
-  // False if the device cannot be had, or refuses.
-  bool Prepare() {
-    return device_->Open() && (IsOnDevice() || (device_->OpenAnew() && IsOnDevice()));
+  // Fails if the device cannot be had, or refuses.
+  void Prepare() {
+    device_->Open();
+    if (Succeeds([this] { PutOnDevice(); })) return;
+    // It may have gone away since it was opened, and another be there.
+    device_->OpenAnew();
+    PutOnDevice();
   }
 
-  bool Play(Looping looping) {
+  void Play(Looping looping) {
     Stop();
     plays_ = true;
     isLooping_ = looping == Looping::Yes;
     restoringTriesLeft_ = RestoringTries;
     mayOpenDeviceAnew_ = true;
-    return plays_ = Begin() || Resume(State());
+    if (!Succeeds([this] { Begin(); })) Resume(State());
   }
 
   void Stop() noexcept {
@@ -129,55 +136,74 @@ struct SoundBuffer::Sound {
       if (!wasHeard_ && passed < std::min(MarginSeconds, length)) return true;
       if (!isLooping_) return plays_ = false;
     }
-    if (!Resume(state)) Stop();
+    // The user hears that it is over, as when a plug is pulled; no box need say so too.
+    if (!Succeeds([&] { Resume(state); })) Stop();
     return plays_;
   }
 
-  bool SetFrequency(int rate) {
-    if (rate < LowestRate || rate > HighestRate) return false;
-    if (onDevice_ && !onDevice_->SetFrequency(rate)) {
+  void SetFrequency(int rate) {
+    if (rate < LowestRate || rate > HighestRate) FailForRate({});
+    try {
+      if (onDevice_) onDevice_->SetFrequency(rate);
+    } catch (const RuntimeError& refusal) {
       // A device that has gone away refuses all; the next one is asked for this rate.
       const auto state = State();
       if (state == SoundOnDevice::State::Playing || state == SoundOnDevice::State::Silent) {
-        return false;
+        FailForRate(refusal.system());
       }
     }
     rate_ = rate;
     begun_ = SteadySeconds();  // its end is now another, and at the latest this far away
-    return true;
   }
 
  private:
+  // Of several tries only the last one's failure is told, since it is what stays in the way.
+  static bool Succeeds(const std::function<void()>& attempt) {
+    try {
+      attempt();
+      return true;
+    } catch (const RuntimeError&) {
+      return false;
+    }
+  }
+
+  [[noreturn]] static void FailForRate(const SystemCause& system) {
+    throw RuntimeError(RuntimeError::InvalidCall, SoundTexts.SoundFrequencyNotPossible, "", system);
+  }
+
   // Puts the sound into the device's memory if it is not there.
-  bool IsOnDevice() {
-    if (onDevice_) return true;
-    onDevice_ = device_->Make(wave_);
-    if (onDevice_ && rate_ != wave_.rate && !onDevice_->SetFrequency(rate_)) onDevice_.reset();
-    return onDevice_ != nullptr;
+  void PutOnDevice() {
+    if (onDevice_) return;
+    auto made = device_->Make(wave_);
+    if (rate_ != wave_.rate) made->SetFrequency(rate_);
+    onDevice_ = std::move(made);
   }
 
   SoundOnDevice::State State() {
     return onDevice_ ? onDevice_->Ask() : SoundOnDevice::State::Broken;
   }
 
-  bool Begin() {
+  void Begin() {
     begun_ = SteadySeconds();
     wasHeard_ = false;
-    return IsOnDevice() && onDevice_->Play(isLooping_);
+    PutOnDevice();
+    onDevice_->Play(isLooping_);
   }
 
   // Lets the sound begin again after it has failed.
-  bool Resume(SoundOnDevice::State state) {
+  void Resume(SoundOnDevice::State state) {
+    const auto begins = [this] { Begin(); };
     if (state == SoundOnDevice::State::Lost && restoringTriesLeft_ > 0) {
       --restoringTriesLeft_;
-      if (onDevice_->Restore(wave_) && Begin()) return true;
+      if (onDevice_->Restore(wave_) && Succeeds(begins)) return;
     }
     // Another sound has opened the device anew.
-    if (!onDevice_ && Begin()) return true;
+    if (!onDevice_ && Succeeds(begins)) return;
     // A device that has gone away may let its memory be restored, and stay silent all the same.
-    if (!mayOpenDeviceAnew_) return false;
+    if (!mayOpenDeviceAnew_) FailWithoutSound({});
     mayOpenDeviceAnew_ = false;
-    return device_->OpenAnew() && Begin();
+    device_->OpenAnew();
+    Begin();
   }
 
   std::shared_ptr<Device> device_ = PerRun<RunsDevice>().device;
@@ -199,7 +225,7 @@ SoundBuffer::SoundBuffer(Wave wave) {
     throw RuntimeError(RuntimeError::InvalidCall, SoundTexts.SoundHasNoData);
   }
   sound_ = std::make_unique<Sound>(AtMost16Bits(std::move(wave)));
-  if (!sound_->Prepare()) FailWithoutSound();
+  sound_->Prepare();
 }
 
 SoundBuffer::~SoundBuffer() = default;
@@ -207,9 +233,11 @@ SoundBuffer::SoundBuffer(SoundBuffer&& other) noexcept = default;
 SoundBuffer& SoundBuffer::operator=(SoundBuffer&& other) noexcept = default;
 
 void SoundBuffer::Play(Looping looping) {
-  if (!sound_->Play(looping)) {
+  try {
+    sound_->Play(looping);
+  } catch (...) {
     sound_->Stop();
-    FailWithoutSound();
+    throw;
   }
 }
 
@@ -222,9 +250,7 @@ bool SoundBuffer::IsPlaying() {
 }
 
 void SoundBuffer::SetFrequency(int rate) {
-  if (!sound_->SetFrequency(rate)) {
-    throw RuntimeError(RuntimeError::InvalidCall, SoundTexts.SoundFrequencyNotPossible);
-  }
+  sound_->SetFrequency(rate);
 }
 
 }  // namespace Platform

@@ -3,6 +3,8 @@
 // A device may go away at any time: a headset is unplugged, a remote session ends. What is playing
 // is then taken up again, on a device that is opened anew if need be, and that is tried a few times
 // only. Where nothing helps there is silence, and the program is told.
+//
+// A failure that the device is the reason of says what was tried last, and the system's code.
 #pragma once
 
 #include <cstdint>

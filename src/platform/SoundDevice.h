@@ -4,13 +4,19 @@
 
 #include <memory>
 
+#include "base/RuntimeError.h"
 #include "base/Wave.h"
 
 namespace Platform {
 
+// How all that is said to fail here does: with DeviceError, the cause SoundNotAvailable, what was
+// being done, and the system's own code. The code is told to the user only; it is never asked what
+// it means, since systems give different ones for the same.
+[[noreturn]] void FailWithoutSound(const SystemCause& system);
+
 class SoundDevice {
  public:
-  // Opens the default device for the main window, which must be loaded. Null if there is none.
+  // Opens the default device for the main window, which must be loaded. Fails if there is none.
   static std::unique_ptr<SoundDevice> Open();
   ~SoundDevice();
 
@@ -25,17 +31,19 @@ class SoundDevice {
 // A sound in the memory of a device, which must outlive it.
 class SoundOnDevice {
  public:
-  // Puts the sound, of at most 16 bits, into the device's memory. Null if the device refuses.
+  // Puts the sound, of at most 16 bits, into the device's memory. Fails if the device refuses.
   static std::unique_ptr<SoundOnDevice> Make(SoundDevice& device, const Wave& wave);
   // Ends the sound.
   ~SoundOnDevice();
 
-  // Each of these is false if the device refuses, or does not answer, for whatever reason.
-  // Plays on from where it is.
-  bool Play(bool isLooping);
+  // Plays on from where it is. Fails if the device refuses, or does not answer.
+  void Play(bool isLooping);
+  // Fails in the same way.
+  void SetFrequency(int rate);
+
+  // Both of these are false if the device refuses, or does not answer: nobody is told of it.
   // Stops it and goes back to the beginning.
   bool Stop();
-  bool SetFrequency(int rate);
   // Gets memory that was lost back, and fills it anew with the same sound. It is then silent.
   bool Restore(const Wave& wave);
 

@@ -30,6 +30,7 @@ std::string Quantity(const std::string& number, bool isOne, LangText one, LangTe
 // The comma and the blank stay where nothing follows them: "2 hours, " has always been shown so.
 std::string InWords(const TimeParts& parts) {
   std::string text;
+  // What is zero is left out, and so is what came out negative.
   if (parts.hours >= 1) {
     text += Quantity(std::to_string(parts.hours), parts.hours == 1, RecordTexts.Hour,
                      RecordTexts.Hours) +

@@ -24,6 +24,7 @@ TimeParts Divide(int32_t milliseconds) {
   TimeParts parts{.hours = RoundedQuotient(totalMinutes, MinutesPerHour),
                   .minutes = totalMinutes % MinutesPerHour,
                   .milliseconds = milliseconds % Minute};
+  // They undo a rounding up without asking whether there was one: see the header.
   if (parts.milliseconds >= Minute / 2) --parts.minutes;
   if (parts.minutes >= MinutesPerHour / 2) --parts.hours;
   return parts;

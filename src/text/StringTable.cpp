@@ -54,6 +54,7 @@ bool LanguageFile::Refresh() {
   // The stamp is taken before the file is read: a change in between is seen at the next look.
   const auto stamp = Platform::StampOf(path_);
   if (isKnown_ && stamp == stamp_) return true;
+  // Until all has gone well: a file that fails half way is read again at the next look.
   isKnown_ = false;
   lines_.clear();
   endsInOpenLine_ = false;

@@ -85,6 +85,7 @@ void WriteRandomParts(int32_t count, Platform::FileWriter& file) {
   using Platform::RandomRange;
   const Platform::LongStep step;
   std::string block;
+  // With room for the part that makes it full, so that it never grows.
   block.reserve(BlockSize + 64);
   for (int32_t i = 0; i < count; ++i) {
     // The upper bounds are not reached: no random track has a clock or sand in it.

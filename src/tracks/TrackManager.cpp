@@ -39,6 +39,7 @@ void AppendTrackPart(int32_t curve, int32_t surface, int32_t length, std::string
 }
 
 void AppendTrackEnd(bool sunny, std::string& text) {
+  // No line end behind it: whoever writes the file puts one behind every text.
   text.append("-1").append(Text::LineEnd) += sunny ? '0' : '1';
 }
 

@@ -18,6 +18,7 @@ std::string ChooseTrackFile(const Platform::FileDialog& dialog, const LangText& 
 }
 
 std::string WithTrackExtension(const std::string& path) {
+  // Another extension is taken for a part of the name: the game lists .trk files alone.
   return Platform::HasExtension(path, ".trk") ? path : path + ".trk";
 }
 

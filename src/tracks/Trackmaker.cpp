@@ -16,6 +16,7 @@ Trackmaker::Trackmaker() : Form(TrackTexts.TrackmakerTitle, {.isResizable = true
 
 void Trackmaker::AddLine(const std::string& line) {
   TrackView.Add(line);
+  // So that who comes to the list hears the newest part first, not the oldest.
   TrackView.Select(TrackView.count() - 1);
 }
 
@@ -57,6 +58,7 @@ void Trackmaker::Track_Click() {
 }
 
 void Trackmaker::Ccl_Click() {
+  // The window stays loaded, and would come back with the focus on this button.
   Track.Focus();
   GoBack();
 }

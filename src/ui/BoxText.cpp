@@ -48,6 +48,7 @@ std::string BoxText(const std::string& text, size_t longest) {
   const size_t half = (longest - Omission.size()) / 2;
   size_t headEnd = 0;
   size_t tailBegin = 0;
+  // In steps of whole characters, so that neither end is cut within one.
   while (visible.size() - tailBegin > half) {
     tailBegin += LengthAt(visible, tailBegin);
     if (tailBegin <= half) headEnd = tailBegin;

@@ -25,6 +25,7 @@ void Control::SetCaption(const std::string& caption) {
 }
 
 void Control::SetEnabled(bool isEnabled) {
+  // A state that stays is not told: each telling lays the window out anew.
   if (isEnabled == isEnabled_) return;
   isEnabled_ = isEnabled;
   StateChanged();
@@ -70,7 +71,9 @@ void TextBox::SelectAll() {
 }
 
 void TextBox::Typed(const std::string& text) {
+  // The system tells of a text that the program set, too.
   if (text == text_) return;
+  // The view is ahead of the model, and is put back.
   if (!form().TakesInput()) return SetText(text_);
   text_ = text;
   if (OnChange) Dispatch(OnChange);
@@ -112,6 +115,7 @@ void ListBox::Add(const std::string& row) {
 }
 
 void ListBox::Remove(int index) {
+  // The row that comes into the gap is selected next; behind the last there is none.
   const bool isMovedUp = index < selected_ || selected_ == count() - 1;
   Remove(index, isMovedUp ? selected_ - 1 : selected_);
 }
@@ -130,6 +134,7 @@ void ListBox::Select(int index) {
 }
 
 void ListBox::Selected(int index) {
+  // The row is on the screen already; the old one is shown again.
   if (!form().TakesInput()) return Select(selected_);
   selected_ = Contains(index) ? index : -1;
   if (OnSelect) Dispatch(OnSelect);
@@ -148,6 +153,7 @@ void ListBox::DoubleClicked() {
 void Button::Click() {
   if (!TakesFocus() || !OnClick || !form().TakesInput()) return;
   Dispatch([this] {
+    // Asked again: a list's OnSelect may have disabled the button meanwhile.
     if (!form().TakeSelections() || !TakesFocus() || !OnClick) return;
     const auto handler = OnClick;  // which may be the end of this button
     handler();
@@ -157,6 +163,7 @@ void Button::Click() {
 char AccessKey(const std::string& caption) {
   for (size_t i = 0; i + 1 < caption.size(); ++i) {
     if (caption[i] != '&') continue;
+    // Two of them are a single "&" that is shown, and no key.
     if (caption[++i] != '&') return LowerCase(caption.substr(i, 1)).front();
   }
   return 0;

@@ -103,6 +103,7 @@ void Form::Show() {
   if (isModal_ || isArriving_) return;  // it is there, or is coming
   Stage& stage = TheStage();
   if (stage.IsCovered()) return stage.PutOff(*this, &Form::Show);
+  // To see afterwards whether another window was shown while this one loaded.
   const Form* const before = stage.InUse();
   if (Load()) stage.Come(*this, before);
 }
@@ -127,6 +128,7 @@ void Form::Unload() {
   if (!view_ || isUnloading_) return;
   Stage& stage = TheStage();
   if (stage.IsOn(*this) && stage.IsCovered()) return stage.PutOff(*this, &Form::Unload);
+  // A window that unloads itself while it loads is not shown.
   isArriving_ = false;
   if (!RunOnUnload()) return;
   if (this == stage.main()) return EndProgram();
@@ -139,6 +141,7 @@ void Form::Unload() {
 bool Form::RunOnUnload() {
   if (!OnUnload) return true;
   const auto handler = OnUnload;
+  // A handler that unloads the window once more must not come back to itself.
   const std::weak_ptr<const void> life = life_;
   isUnloading_ = true;
   try {
@@ -160,6 +163,7 @@ void Form::ShowModal() {
     return;
   }
   Stage& stage = TheStage();
+  // OnLoad may have ended the program, and then nothing would end the loop.
   if (stage.HasEnded()) return TakeDown();
   // The window is worked by the user, even if a long step asks by it.
   const LongStep::Pause pause;
@@ -217,6 +221,7 @@ bool Form::Load() {
 
 void Form::TakeDown() {
   isVisible_ = false;
+  // Before the view goes, which is what stops them.
   for (Timer* timer : timers_) timer->Stop();
   view_.reset();
 }
@@ -276,6 +281,7 @@ bool Form::KeyDown(KeyEvent key) {
   if (!TakesInput()) return false;
   bool isHere = false;
   Dispatch([&] { isHere = TakeSelections(); });
+  // The list that told of its selection has led elsewhere.
   if (!isHere) return true;
   if (!OnKeyDown) return false;
   if (focus_ && focus_->kind() == Control::Kind::TextBox && IsForEditing(key)) return false;
@@ -308,6 +314,7 @@ void Dispatch(std::function<void()> handler) noexcept {
     TellFailure();
   }
   TheStage().EventEnds();
+  // Within another event it would come in the middle of its work.
   if (TheStage().IsHandlingEvents()) return;
   try {
     TellSaveNotes();

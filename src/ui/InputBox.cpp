@@ -11,6 +11,7 @@ class InputBoxForm final : public Form {
  public:
   InputBoxForm(const std::string& prompt, const std::string& title) : Form(FixedText("")) {
     OnLoad = [this, prompt, title] {
+      // Here, because loading looks up title and captions in the table, where a built text is not.
       SetTitle(title);
       Answer.SetCaption(AsCaption(prompt));
     };

@@ -39,6 +39,7 @@ Size ButtonSize(const Item& item, const Font& font, int width) {
       std::max(font.units.Across(ButtonWidth), text.width + font.units.Across(2 * ButtonPadding));
   const int height =
       std::max(font.units.Down(ButtonHeight), text.height + font.units.Down(BoxFrame));
+  // In a narrow window it is the air that goes, not a part of the caption.
   return {std::min(wanted, std::max(width, text.width)), height};
 }
 
@@ -93,6 +94,7 @@ class Column {
       std::vector<Size> sizes;
       for (; i < items_.size() && items_[i].kind == Kind::Button; ++i) {
         const Size size = ButtonSize(items_[i], font_, width_);
+        // The first goes in even if it alone is too wide.
         if (i > first && rowWidth + gap + size.width > width_) break;
         rowWidth += size.width + (i > first ? gap : 0);
         rowHeight = std::max(rowHeight, size.height);
@@ -139,6 +141,7 @@ int ContentWidth(const std::vector<Item>& items, const Font& font) {
       continue;
     }
     run += ButtonSize(item, font, AnyWidth).width + (run > 0 ? font.units.Across(ButtonGap) : 0);
+    // A run that is wider than that is broken into rows instead.
     if (run <= widest) width = std::max(width, run);
     width = std::max(width, ButtonSize(item, font, AnyWidth).width);
   }
@@ -164,6 +167,7 @@ std::vector<Place> Arrange(const std::vector<Item>& items, const Font& font, Siz
   int growerHeight = RowsHeight(font, LeastRows);
   int rest = 0;
   if (growers > 0) {
+    // What the window has beyond its least height goes to the lists and pages.
     const int spare = std::max(0, client.height - LeastSize(items, font, client.width).height);
     growerHeight += spare / growers;
     rest = spare % growers;

@@ -25,6 +25,7 @@ void MenuItem::SetChecked(bool isChecked) {
   try {
     if (form_.view()) form_.view()->MenuChanged();
   } catch (...) {
+    // The old menu stays, so the item is as it shows.
     isChecked_ = wasChecked;
     throw;
   }

@@ -22,6 +22,8 @@ std::optional<Answer> Try(const std::string& text, const std::string& title, Ico
 
 Answer MsgBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) {
   auto answer = Try(BoxText(text), BoxText(title), icon, buttons, true);
+  // Too little memory for a long text, or an owner that is just going: a short one that stands by
+  // itself may still come.
   if (!answer && !HasProgramEnded()) {
     answer = Try(BoxText(text, ShortText), BoxText(title, ShortText), icon, buttons, false);
   }

@@ -18,6 +18,7 @@ bool Stage::LetsIn(const Form& form) const {
 }
 
 void Stage::Come(Form& form, const Form* before) {
+  // While it loaded it showed another, which stands over it.
   const bool isOvertaken = current_ && current_ != before && !IsOn(form);
   if (!isOvertaken) return Put(form);
   if (std::count(openers_.begin(), openers_.end(), &form) == 0) openers_.push_back(&form);
@@ -56,6 +57,7 @@ void Stage::Put(Form& form) {
 }
 
 void Stage::Leave() {
+  // In the middle of an event this waits for its end: another window may be shown until then.
   isLeaving_ = true;
   Settle();
 }
@@ -97,6 +99,7 @@ void Stage::Settle() noexcept {
       TellFailure();
     }
   }
+  // Last, as what was put off may have shown the window that takes the place.
   if (!hasEnded_ && std::exchange(isLeaving_, false)) {
     try {
       GoBack();
@@ -111,6 +114,7 @@ void Stage::End() {
   if (hasEnded_) return;
   hasEnded_ = true;
   putOff_.clear();
+  // Their loops still run, one within the other, and now return in turn.
   for (Form* form : modals_) form->view_->EndModal();
   if (!current_) return;
   current_->isVisible_ = false;

@@ -19,6 +19,7 @@ Timer::~Timer() {
 }
 
 void Timer::Start() {
+  // Begun anew, so that the first tick is a whole interval away.
   Stop();
   if (!form_.view()) return;
   form_.view()->StartTimer(*this);
@@ -40,6 +41,7 @@ void Timer::Tick() {
   if (!OnTimer || !MayTick()) return;
   // The handler may be the end of the window, and with it of this timer.
   const std::weak_ptr<const void> life = form_.life();
+  // A box that the handler shows runs a loop, in which the time is over again and again.
   isTicking_ = true;
   Dispatch(OnTimer);
   if (!life.expired()) isTicking_ = false;

@@ -32,8 +32,10 @@ void InternalCars::ShowFor(VehicleVariable variable,
 }
 
 void InternalCars::Submit_Click() {
+  // Another program, such as a screen reader, can leave the list with no row selected.
   if (Sounds.selected() < 0) return;
   const std::string name = Sounds.row(Sounds.selected());
+  // First: the opener's list takes the focus, and must be on the screen to be heard.
   Unload();
   onChosen_(name);
 }

@@ -33,12 +33,9 @@ inline constexpr std::array<InternalSoundKind, 4> InternalSoundKinds{{
     {VehicleVariable::HornSound, "horn", InternalVehicleNames},
 }};
 
-// The type of these resources. Each holds a whole WAV file.
-inline constexpr int InternalSoundResourceType = 1408;
-
-// The name of the resource with the sound that a value of a variable stands for: "car1engine" for
-// "enginesound" and "car1". Empty if there is none: for the name of a file, the text of a value
-// that is not set, a variable that holds no sound, or a sound that this variable cannot have, such
-// as "throttlesound" and "car3". Letter case counts in both, as it does in a vehicle file; it does
-// not in the name of a resource.
+// The name of the resource, of the type Platform::SoundResource, with the sound that a value of a
+// variable stands for: "car1engine" for "enginesound" and "car1". Empty if there is none: for the
+// name of a file, the text of a value that is not set, a variable that holds no sound, or a sound
+// that this variable cannot have, such as "throttlesound" and "car3". Letter case counts in both,
+// as it does in a vehicle file; it does not in the name of a resource.
 std::string InternalSoundResourceName(std::string_view variable, std::string_view value);

@@ -41,6 +41,7 @@ void NewCar::Form_Load() {
 }
 
 void NewCar::Form_Unload() {
+  // Without the window nobody could stop the sound.
   StopTest();
   TheVehicle() = {};
 }
@@ -63,6 +64,7 @@ void NewCar::Set_Click() {
 }
 
 void NewCar::Save_Click() {
+  // The box that follows is to be heard by screen reader, not under an engine.
   StopTest();
   CarManager::SaveVehicleFile(TheVehicle().VehicleFilePath);
 }
@@ -73,6 +75,8 @@ void NewCar::Test_Click() {
   try {
     refusal = test_.Start(static_cast<VehicleVariable>(Items.selected()));
     if (!refusal) {
+      // The timer first: where it cannot be had, nobody would notice the end of the sound, and the
+      // caption must not promise that it can be stopped.
       Watch.Start();
       ShowTestCaption(VehicleTexts.StopButton);
       return;
@@ -115,6 +119,7 @@ void NewCar::Refresh() {
   for (size_t i = 0; i < RowLabels.size(); ++i) {
     rows.push_back(GetLangString(RowLabels[i]) + GetVehicleValue(static_cast<VehicleVariable>(i)));
   }
+  // From the first row again, whichever was set.
   Items.SetRows(std::move(rows), 0);
   Items.Focus();
 }

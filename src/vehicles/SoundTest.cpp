@@ -35,7 +35,7 @@ SoundTest::Refusal MissingFile(VehicleVariable variable) {
 }
 
 SoundBuffer FromResource(const std::string& name) {
-  const auto bytes = Platform::ReadResource(InternalSoundResourceType, name);
+  const auto bytes = Platform::ReadResource(Platform::SoundResource, name);
   if (!bytes) throw RuntimeError(RuntimeError::FileNotFound, name);
   return SoundBuffer(DecodeWave(*bytes));
 }
@@ -106,6 +106,7 @@ std::optional<SoundTest::Refusal> SoundTest::StartFrequency(VehicleVariable vari
     return Refused(VehicleTexts.FreqInternalErrorText, VehicleTexts.FreqInternalErrorTitle);
   }
   const auto rate = Platform::ParseWhole(GetVehicleValue(variable));
+  // The text of a variable that is not set comes here too.
   if (!rate) throw RuntimeError(RuntimeError::InvalidCall, SoundTexts.SoundFrequencyNotPossible);
   sound_ = FromResource(engine);
   sound_->SetFrequency(*rate);
@@ -117,6 +118,7 @@ bool SoundTest::Continue() {
   if (!sound_) return false;
   try {
     if (sound_->IsPlaying()) return true;
+    // The ignition is over: the engine, made ready before, follows without a gap.
     sound_ = std::exchange(engine_, std::nullopt);
     if (sound_) sound_->Play(Looping::Yes);
   } catch (...) {

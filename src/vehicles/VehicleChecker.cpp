@@ -42,6 +42,7 @@ class Checker {
 
 // The game has more internal sounds than these, but car5 and car6 have always been taken for files.
 bool IsInternalSound(VehicleVariable variable, std::string_view value) {
+  // These two have a sound of every kind.
   if (value == "car1" || value == "car2") return true;
   if (variable == VehicleVariable::ThrottleSound) return false;
   return value == "car3" || value == "car4" || value == "cycle1" || value == "cycle2";

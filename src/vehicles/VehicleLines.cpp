@@ -47,6 +47,7 @@ std::string ValueOf(const std::string& lines, VehicleVariable variable) {
 std::string ForFile(const std::string& lines) {
   std::string bytes;
   for (const std::string& line : LinesOf(lines)) {
+    // A line that ends so has no value: a name with "=" in it is refused before it is set.
     if (!line.empty() && !line.ends_with('=')) bytes.append(line) += Text::LineEnd;
   }
   return bytes;

@@ -104,6 +104,8 @@ SetResult SetSound(VehicleVariable variable) {
   const std::string name = Platform::NameOf(chosen);
   CheckSoundName(name, chosen);
   const std::string ownPath = TheVehicle().VehicleFolder() + "\\" + name;
+  // A file of that name that is there already is used as it is, and never replaced: it may be
+  // another vehicle's sound, or the chosen file itself.
   if (!Platform::FileExists(ownPath) && chosen != ownPath) Platform::CopyFileTo(chosen, ownPath);
   return Set(variable, name);
 }
@@ -128,6 +130,7 @@ SetResult SetNumber(VehicleVariable variable) {
   if (variable == VehicleVariable::SteeringFactor && (whole < 1 || whole > 100)) {
     return RefuseSteeringFactor();
   }
+  // As it was typed: the file keeps the digits that the user chose.
   return Set(variable, answer);
 }
 

@@ -2,10 +2,9 @@
 // time the same is done nothing is left behind.
 #include <functional>
 
-#include "app/Start.h"
 #include "base/LineReader.h"
 #include "tests/Matchers.h"
-#include "tests/SimulatedGame.h"
+#include "tests/StartedPack.h"
 #include "tracks/TrackInWork.h"
 #include "ui/Forms.h"
 
@@ -13,7 +12,7 @@ namespace {
 
 using testing::HasSubstr;
 
-const std::string Game = "C:\\Games\\Skidrun2";
+const std::string Game = StartedPack::Game;
 const std::string Records = Game + "\\highscore.cfg";
 const std::string Race = Game + "\\tracks\\Race.trk";
 const std::string OnePart = "3\r\n1\r\n7000\r\n";
@@ -72,11 +71,6 @@ std::vector<Work> Works() {
 
 class EndedWhile : public testing::TestWithParam<Work> {
  protected:
-  static void Forget(Simulated::User& user) {
-    user.script().files.clear();
-    user.script().answers.clear();
-    user.script().modals.clear();
-  }
   static void ExpectTidy(const Simulated::Machine& machine) {
     EXPECT_EQ(machine.files.Names(Game).size(), 4u);
     EXPECT_EQ(machine.files.Names(Game + "\\tracks").size(), 1u);
@@ -99,7 +93,7 @@ TEST_P(EndedWhile, TheFileIsWholeAndTheNextTimeNothingIsLeft) {
     work.act(machine.user);
     isEnded = !machine.faults.EndedAt().empty();
     SCOPED_TRACE(std::to_string(n) + " " + machine.faults.EndedAt());
-    Forget(machine.user);
+    ForgetPlans(machine.user);
     machine.StartAnew();
     const std::string found = machine.files.Text(work.path);
     EXPECT_TRUE(work.isDone(found) || (isEnded && found == work.before)) << found.substr(0, 80);

@@ -72,6 +72,7 @@ void TearDown() {
   RunObjects::End();
   RealMachine::EmptyQueue();
   RealMachine::ForgetModalWindows();
+  RealMachine::PutBackRoom();
   RealMachine::PutBackSound();
   RealMachine::PutBackMicrophones();
   RealMachine::PutBackFiles();

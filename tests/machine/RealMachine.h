@@ -22,6 +22,7 @@ void ForgetModalWindows();
 void PutBackDocuments();
 void PutBackWeb();
 void PutBackClipboard();
+void PutBackRoom();
 
 // Lets a file be written that is open already, but not be made shorter, until the test ends. False
 // if this machine cannot do so.

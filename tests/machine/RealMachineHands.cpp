@@ -32,6 +32,7 @@ void SetKeys(const Stroke& stroke, bool areDown) {
   const auto set = [&](BYTE key, bool isUsed) {
     if (isUsed) state[key] = areDown ? 0x80 : 0;
   };
+  set(static_cast<BYTE>(stroke.key), true);
   set(VK_CONTROL, stroke.isCtrl);
   set(VK_LCONTROL, stroke.isCtrl);
   set(VK_SHIFT, stroke.isShift);
@@ -45,8 +46,10 @@ HWND KeyboardWindow() {
   return GetFocus() ? GetFocus() : GetActiveWindow();
 }
 
-void PostKey(WORD key, bool isDown, bool isAlt, bool isHandledAtOnce = true) {
-  LPARAM data = 1 | static_cast<LPARAM>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC)) << 16;
+constexpr LPARAM WasDownBefore = 1 << 30;
+
+void PostKey(WORD key, bool isDown, bool isAlt, bool isHandledAtOnce = true, LPARAM more = 0) {
+  LPARAM data = more | 1 | static_cast<LPARAM>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC)) << 16;
   if (isAlt) data |= 1 << 29;
   if (!isDown) data |= static_cast<LPARAM>(3) << 30;
   const UINT message =
@@ -204,6 +207,11 @@ void LetGoOfKeys() {
   SetKeys(stroke, false);
   if (stroke.isAlt) PostKey(VK_MENU, false, true);
   PostKey(stroke.key, false, false);
+}
+
+void RepeatKey() {
+  const Stroke& stroke = StrokeHeldDown();
+  PostKey(stroke.key, true, stroke.isAlt, true, WasDownBefore);
 }
 
 void Type(const std::string& text) {

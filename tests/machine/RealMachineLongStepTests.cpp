@@ -7,6 +7,7 @@
 
 #include "machine/win32/FormWindow.h"
 #include "platform/LongStep.h"
+#include "tests/machine/RealMachine.h"
 #include "tests/machine/TestMachine.h"
 #include "ui/Forms.h"
 
@@ -135,6 +136,45 @@ TEST_F(LongStep, DropsWhatComesFromTheKeyboardItself) {
     step.AnswerOthers();
   }
   EXPECT_EQ(TestMachine::Hears(), "Name, edit, Alt+N");
+}
+
+TEST_F(LongStep, DropsTheRepeatsOfAKeyUntilItIsLetGo) {
+  SetForegroundWindow(Platform::ActiveWindow());
+  TestMachine::Hears();  // brings the window to rest
+  const auto send = [](DWORD flags) {
+    INPUT stroke{};
+    stroke.type = INPUT_KEYBOARD;
+    stroke.ki.wVk = 'X';
+    stroke.ki.dwFlags = flags;
+    SendInput(1, &stroke, sizeof stroke);
+  };
+  {
+    const Platform::LongStep step;
+    send(0);
+    constexpr DWORD PatienceMs = 5000;
+    const DWORD waited =
+        MsgWaitForMultipleObjectsEx(0, nullptr, PatienceMs, QS_KEY, MWMO_INPUTAVAILABLE);
+    if (waited == WAIT_TIMEOUT) GTEST_SKIP() << "the keyboard belongs to another program";
+  }
+  const auto seen = [](UINT message) {
+    bool isSeen = false;
+    TestMachine::WaitUntil([&] {
+      MSG waiting;
+      isSeen = PeekMessageA(&waiting, nullptr, message, message, PM_NOREMOVE);
+      return isSeen;
+    });
+    return isSeen;
+  };
+  send(0);
+  send(0);
+  send(KEYEVENTF_KEYUP);
+  EXPECT_TRUE(seen(WM_KEYUP));
+  RealMachine::Pump();
+  EXPECT_EQ(Name.text(), "");
+  send(0);
+  send(KEYEVENTF_KEYUP);
+  TestMachine::WaitUntil([this] { return !Name.text().empty(); });
+  EXPECT_EQ(Name.text(), "x");
 }
 
 TEST_F(LongStep, DoesNotSwallowTheEndOfTheProgram) {

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdlib>
+#include <functional>
 
 #include "base/RuntimeError.h"
 #include "platform/InterruptedSave.h"
@@ -78,6 +79,32 @@ class RealSaves : public ContractTest, public testing::WithParamInterface<SaveSc
     return code;
   }
 
+  // Makes the save as often as it has calls, and has each of them refused in turn.
+  //   look  looks at what has become of the file, given the failure if there was one.
+  void RefuseEachCall(FileFaults::What what,
+                      const std::function<void(const std::optional<RuntimeError>&)>& look) {
+    bool isRefused = true;
+    for (int n = 0; isRefused && !HasFailure(); ++n) {
+      Prepare();
+      std::optional<RuntimeError> failure;
+      std::string refused;
+      {
+        const FileFaults faults(what, n);
+        try {
+          scenario.save(path);
+        } catch (const RuntimeError& error) {
+          failure = error;
+        }
+        refused = faults.refused();
+      }
+      isRefused = !refused.empty();
+      SCOPED_TRACE(std::to_string(n) + " " + refused);
+      LetGo();
+      look(failure);
+      ExpectWholeAndTidy();
+    }
+  }
+
   const SaveScenario& scenario = GetParam();
   const std::string folder = TestMachine::ScratchFolder();
   const std::string path = folder + "\\highscore.cfg";
@@ -105,57 +132,22 @@ TEST_P(RealSaves, CutOffAtAnyCallTheFileIsWhole) {
 }
 
 TEST_P(RealSaves, RefusedOnceNothingIsLeftAndNothingIsLost) {
-  bool isRefused = true;
-  for (int n = 0; isRefused && !HasFailure(); ++n) {
-    Prepare();
-    std::optional<RuntimeError> failure;
-    std::string refused;
-    {
-      const FileFaults faults(FileFaults::What::RefusesOnce, n);
-      try {
-        scenario.save(path);
-      } catch (const RuntimeError& error) {
-        failure = error;
-      }
-      refused = faults.refused();
-    }
-    isRefused = !refused.empty();
-    SCOPED_TRACE(std::to_string(n) + " " + refused);
-    LetGo();
+  RefuseEachCall(FileFaults::What::RefusesOnce, [this](const auto& failure) {
     EXPECT_EQ(TestMachine::BytesOf(path),
               failure ? scenario.before : std::optional(scenario.after));
     EXPECT_EQ(TestMachine::NamesIn(folder), failure ? before : Names());
     Platform::ReadWholeFile(path);
     EXPECT_THAT(Rescued(), IsEmpty());
-    ExpectWholeAndTidy();
-  }
+  });
 }
 
 TEST_P(RealSaves, RefusedForGoodTheCopyIsNamedIfTheFileIsMixed) {
-  bool isRefused = true;
-  for (int n = 0; isRefused && !HasFailure(); ++n) {
-    Prepare();
-    std::optional<RuntimeError> failure;
-    std::string refused;
-    {
-      const FileFaults faults(FileFaults::What::RefusesFromThere, n);
-      try {
-        scenario.save(path);
-      } catch (const RuntimeError& error) {
-        failure = error;
-      }
-      refused = faults.refused();
-    }
-    isRefused = !refused.empty();
-    SCOPED_TRACE(std::to_string(n) + " " + refused);
-    LetGo();
+  RefuseEachCall(FileFaults::What::RefusesFromThere, [this](const auto& failure) {
     const auto bytes = TestMachine::BytesOf(path);
-    if (bytes != scenario.before && bytes != scenario.after) {
-      ASSERT_TRUE(failure);
-      EXPECT_EQ(TestMachine::BytesOf(failure->copy()), scenario.before);
-    }
-    ExpectWholeAndTidy();
-  }
+    if (bytes == scenario.before || bytes == scenario.after) return;
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(TestMachine::BytesOf(failure->copy()), scenario.before);
+  });
 }
 
 INSTANTIATE_TEST_SUITE_P(Saves, RealSaves, testing::ValuesIn(SaveScenarios()),

@@ -24,7 +24,8 @@ struct Watch {
   bool isUnplugged = false;
   int device = 1;  // the number of the device that is there
   int failures = 0;
-  std::vector<WatchedBuffer*> buffers;  // in the order in which they were made
+  std::optional<TestMachine::SoundCall> refused;  // what the device that is there refuses
+  std::vector<WatchedBuffer*> buffers;            // in the order in which they were made
 
   // What is asked of a device that has gone away fails, with a code that changes from one time to
   // the next, and is none that the system's documents name for it.
@@ -37,6 +38,10 @@ struct Watch {
 Watch& TheWatch() {
   static Watch watch;
   return watch;
+}
+
+bool IsRefused(TestMachine::SoundCall call) {
+  return TheWatch().refused == call;
 }
 
 class WatchedBuffer final : public IDirectSoundBuffer {
@@ -91,6 +96,7 @@ class WatchedBuffer final : public IDirectSoundBuffer {
   }
   HRESULT STDMETHODCALLTYPE Play(DWORD reserved, DWORD priority, DWORD flags) override {
     if (const HRESULT failure = Failure()) return failure;
+    if (IsRefused(TestMachine::SoundCall::Play)) return DSERR_ALLOCATED;
     return buffer_->Play(reserved, priority, flags);
   }
   HRESULT STDMETHODCALLTYPE Stop() override {
@@ -100,7 +106,9 @@ class WatchedBuffer final : public IDirectSoundBuffer {
     return IsGone() ? TheWatch().Gone() : buffer_->SetCurrentPosition(position);
   }
   HRESULT STDMETHODCALLTYPE SetFrequency(DWORD rate) override {
-    return IsGone() ? TheWatch().Gone() : buffer_->SetFrequency(rate);
+    if (IsGone()) return TheWatch().Gone();
+    if (IsRefused(TestMachine::SoundCall::SetFrequency)) return DSERR_ALLOCATED;
+    return buffer_->SetFrequency(rate);
   }
   HRESULT STDMETHODCALLTYPE Restore() override {
     if (IsGone()) return TheWatch().Gone();
@@ -159,6 +167,7 @@ class WatchedDevice final : public IDirectSound8 {
   HRESULT STDMETHODCALLTYPE CreateSoundBuffer(const DSBUFFERDESC* description,
                                               IDirectSoundBuffer** made, IUnknown* outer) override {
     if (number_ != TheWatch().device) return TheWatch().Gone();
+    if (IsRefused(TestMachine::SoundCall::Make)) return DSERR_ALLOCATED;
     IDirectSoundBuffer* buffer = nullptr;
     const HRESULT result = device_->CreateSoundBuffer(description, &buffer, outer);
     *made = SUCCEEDED(result) ? new WatchedBuffer(buffer, number_, *description) : nullptr;
@@ -275,6 +284,10 @@ void LoseSounds() {
   for (WatchedBuffer* buffer : TheWatch().buffers) buffer->Lose();
 }
 
+void LetSoundDeviceRefuse(SoundCall call) {
+  TheWatch().refused = call;
+}
+
 }  // namespace TestMachine
 
 std::string& RealMachine::SpeakersFile() {
@@ -284,4 +297,5 @@ std::string& RealMachine::SpeakersFile() {
 
 void RealMachine::PutBackSound() {
   TestMachine::PlugInSoundDevice();
+  TheWatch().refused.reset();
 }

@@ -2,6 +2,7 @@
 // them, and that a window may go away in the middle of its own events.
 #include <gmock/gmock.h>
 
+#include "base/RuntimeError.h"
 #include "machine/win32/FormWindow.h"
 #include "tests/machine/RealMachine.h"
 #include "tests/machine/TestMachine.h"
@@ -426,6 +427,31 @@ TEST_F(WindowTest, ManyWindowsLeaveNoWindowBehind) {
   EXPECT_GE(windows, 1) << "the main one";
   for (int i = 0; i < 10; ++i) OpenAndClose(tool);
   EXPECT_EQ(WindowsOfThisThread(), windows);
+}
+
+TEST_F(WindowTest, AWindowThatCannotBeMadeLeavesNoWindowAndNoMenuBehind) {
+  MenuItem Edit(tool, {.text = FixedText("&Edit")});
+  MenuItem Copy(Edit, {.text = FixedText("&Copy")});
+  OpenAndClose(tool);
+  const int windows = WindowsOfThisThread();
+  for (const auto thing : {TestMachine::Scarce::Windows, TestMachine::Scarce::Menus}) {
+    for (int n = 0;; ++n) {
+      TestMachine::Refuse(thing, n);
+      bool hasFailed = false;
+      try {
+        tool.Show();
+      } catch (const RuntimeError&) {
+        hasFailed = true;
+      }
+      EXPECT_EQ(hasFailed, TestMachine::HasRefused());
+      if (!hasFailed) break;
+      EXPECT_FALSE(tool.IsLoaded());
+      EXPECT_EQ(WindowsOfThisThread(), windows) << n;
+      EXPECT_EQ(GetFocus(), WindowOf(main)) << n;
+    }
+    tool.Unload();
+    RealMachine::Pump();
+  }
 }
 
 TEST_F(WindowTest, AModalWindowHasACloseBoxAlone) {

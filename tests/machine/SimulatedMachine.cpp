@@ -192,6 +192,14 @@ void UnplugMicrophones() {
   machine->microphone.Unplug();
 }
 
+void LetSoundDeviceRefuse(SoundCall call) {
+  switch (call) {
+    case SoundCall::Make: return machine->sound.Refuse("SoundOnDevice");
+    case SoundCall::Play: return machine->sound.Refuse("SoundOnDevice::Play");
+    case SoundCall::SetFrequency: return machine->sound.Refuse("SoundOnDevice::SetFrequency");
+  }
+}
+
 std::string DocumentExtension() {
   return ".chm";
 }
@@ -270,10 +278,16 @@ void Type(const std::string& text) {
 }
 
 void HoldDown(const std::string& key) {
-  machine->user.Presses(key);
+  machine->user.HoldsDown(key);
 }
 
-void LetGoOfKeys() {}
+void LetGoOfKeys() {
+  machine->user.LetsGo();
+}
+
+void RepeatKey() {
+  machine->user.KeyRepeats();
+}
 
 void CloseWindow() {
   machine->user.ClosesWindow();
@@ -356,6 +370,21 @@ void WaitUntil(const std::function<bool()>& condition) {
 
 void LetTimeGoBy(int milliseconds) {
   machine->user.Waits(milliseconds);
+}
+
+void Refuse(Scarce thing, int calls) {
+  const auto refuse = [calls](const char* call) {
+    machine->faults.FailAnyCall(Simulated::After{calls}, call);
+  };
+  switch (thing) {
+    case Scarce::Windows: return refuse("FormView::FormView");
+    case Scarce::Menus: return refuse("FormView::MenuChanged");
+    case Scarce::Timers: return refuse("FormView::StartTimer");
+  }
+}
+
+bool HasRefused() {
+  return machine->faults.HasHappened();
 }
 
 void ChooseInMissingFolder(const std::string& path) {

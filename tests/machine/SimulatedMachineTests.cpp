@@ -18,5 +18,6 @@
 #include "tests/ui/KeysContract.h"
 #include "tests/ui/LongStepContract.h"
 #include "tests/ui/MenusContract.h"
+#include "tests/ui/ScarcityContract.h"
 #include "tests/ui/StageContract.h"
 #include "tests/ui/TimersContract.h"

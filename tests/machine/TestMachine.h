@@ -130,6 +130,10 @@ void UnplugSoundDevice();
 void PlugInSoundDevice();
 // The device takes back the memory of all its sounds; what it held is gone.
 void LoseSounds();
+// The device that is there refuses all calls of a kind with the code 0x8878000A, and so does each
+// one that is opened, until the test ends.
+enum class SoundCall { Make, Play, SetFrequency };
+void LetSoundDeviceRefuse(SoundCall call);
 
 // --- Recording ---
 
@@ -203,6 +207,8 @@ void Press(const std::string& key);
 // of the key; Press does it the other way round.
 void HoldDown(const std::string& key);
 void LetGoOfKeys();
+// The keyboard repeats the key that is held down, as it does by itself after a while.
+void RepeatKey();
 // Presses a key while the program is busy: it gets the key only when it looks for one.
 void PressWhileBusy(const std::string& key);
 // Types the characters of a text.
@@ -245,6 +251,17 @@ void ChooseMenu(const std::vector<std::string>& captions);
 void WaitUntil(const std::function<bool()>& condition);
 // Lets the program handle what comes for so long: to see that nothing comes.
 void LetTimeGoBy(int milliseconds);
+
+// --- Room for windows ---
+
+// What the system may have no room for.
+enum class Scarce { Windows, Menus, Timers };
+// The system refuses one call that makes such a thing, with the code 1158, until the test ends or
+// this is asked for again.
+//   calls  how many go well before. How many a window takes differs from machine to machine.
+void Refuse(Scarce thing, int calls = 0);
+// True if it has come to that.
+bool HasRefused();
 
 // --- Boxes and dialogs ---
 

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <optional>
+#include <sstream>
 #include <vector>
 
 #include "base/PerRun.h"
@@ -47,6 +48,22 @@ class SoundContract : public ContractTest {
     } catch (const RuntimeError& error) {
       return error.cause().key;
     }
+  }
+
+  // What the system said of the failure of an action, as the last line of the user's box has it:
+  // "Opening the sound device: 88780078". Empty if it said nothing.
+  static std::string SystemCauseFor(const std::function<void()>& action) {
+    try {
+      action();
+      ADD_FAILURE() << "it did not fail";
+    } catch (const RuntimeError& error) {
+      const SystemCause& system = error.system();
+      if (!system.step.english) return "";
+      std::ostringstream said;
+      said << system.step.english << ": " << std::hex << system.code;
+      return said.str();
+    }
+    return "";
   }
 
   static std::vector<TestMachine::SoundPlaying> Playing() { return TestMachine::SoundsPlaying(); }
@@ -312,4 +329,42 @@ TEST_F(SoundContract, AtTheEndOfTheRunAllFallsSilent) {
   EXPECT_THAT(Playing(), IsEmpty());
   EXPECT_FALSE(one.IsPlaying());
   EXPECT_EQ(CauseFor([&] { other.Play(Once); }), "SoundNotAvailable");
+}
+
+// --- What the system said of a failure ---
+
+TEST_F(SoundContract, WithoutADeviceTheUserIsToldTheSystemsCodeForThat) {
+  const std::string noDriver = "Opening the sound device: 88780078";
+  Platform::SoundBuffer sound(tone);
+  TestMachine::UnplugSoundDevice();
+  // What was tried last counts: the device that has gone gives codes of every kind.
+  EXPECT_EQ(SystemCauseFor([&] { sound.Play(Once); }), noDriver);
+  EXPECT_EQ(SystemCauseFor([] { Platform::OpenSoundDevice(); }), noDriver);
+  EXPECT_EQ(SystemCauseFor([&] { Platform::SoundBuffer(Wave(tone)); }), noDriver);
+}
+
+TEST_F(SoundContract, ADeviceThatTakesNoSoundSaysWhy) {
+  TestMachine::LetSoundDeviceRefuse(TestMachine::SoundCall::Make);
+  EXPECT_EQ(SystemCauseFor([&] { Platform::SoundBuffer(Wave(tone)); }),
+            "Making a sound buffer: 8878000a");
+  EXPECT_TRUE(Platform::IsSoundDeviceOpen());
+}
+
+TEST_F(SoundContract, ADeviceThatPlaysNoSoundSaysWhy) {
+  TestMachine::LetSoundDeviceRefuse(TestMachine::SoundCall::Play);
+  Platform::SoundBuffer sound(tone);
+  EXPECT_EQ(SystemCauseFor([&] { sound.Play(Once); }), "Playing a sound: 8878000a");
+  EXPECT_FALSE(sound.IsPlaying());
+}
+
+TEST_F(SoundContract, ADeviceThatKnowsNoSuchRateSaysWhy) {
+  Platform::SoundBuffer sound(tone);
+  sound.Play(Looped);
+  TestMachine::LetSoundDeviceRefuse(TestMachine::SoundCall::SetFrequency);
+  EXPECT_EQ(SystemCauseFor([&] { sound.SetFrequency(11'025); }),
+            "Setting the frequency of a sound: 8878000a");
+  EXPECT_EQ(CauseFor([&] { sound.SetFrequency(11'025); }), "SoundFrequencyNotPossible");
+  EXPECT_EQ(SystemCauseFor([&] { sound.SetFrequency(HighestRate + 1); }), "")
+      << "the device was not even asked";
+  EXPECT_THAT(Playing(), ElementsAre(Heard(tone, Looped)));
 }

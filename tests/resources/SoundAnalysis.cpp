@@ -4,11 +4,14 @@
 #include <cmath>
 #include <complex>
 #include <cstddef>
+#include <numbers>
+
+#include "e2e/driver/Fourier.h"
 
 namespace Analysis {
 namespace {
 
-constexpr double Pi = 3.14159265358979323846;
+constexpr double Pi = std::numbers::pi;
 
 uint32_t NumberAt(const std::string& bytes, size_t place, int count) {
   uint32_t number = 0;
@@ -16,27 +19,6 @@ uint32_t NumberAt(const std::string& bytes, size_t place, int count) {
     number = number << 8 | static_cast<unsigned char>(bytes[place + static_cast<size_t>(i)]);
   }
   return number;
-}
-
-// In place; the count is a power of two.
-void Transform(std::vector<std::complex<double>>& values) {
-  const size_t count = values.size();
-  for (size_t i = 1, j = 0; i < count; ++i) {
-    size_t bit = count >> 1;
-    for (; (j & bit) != 0; bit >>= 1) j ^= bit;
-    j ^= bit;
-    if (i < j) std::swap(values[i], values[j]);
-  }
-  for (size_t half = 1; half < count; half *= 2) {
-    for (size_t k = 0; k < half; ++k) {
-      const auto turn = std::polar(1.0, -Pi * static_cast<double>(k) / static_cast<double>(half));
-      for (size_t i = k; i < count; i += 2 * half) {
-        const auto turned = values[i + half] * turn;
-        values[i + half] = values[i] - turned;
-        values[i] += turned;
-      }
-    }
-  }
 }
 
 double Decibels(double power) {
@@ -130,7 +112,7 @@ Spectrum SpectrumOf(const Samples& loop, int rate) {
     const double window = 0.5 - 0.5 * std::cos(2 * Pi * static_cast<double>(i) / Count);
     values[i] = window * loop[i % loop.size()];
   }
-  Transform(values);
+  Fourier::Transform(values);
   Spectrum spectrum{static_cast<double>(rate) / Count, {}};
   for (size_t i = 0; i < Count / 2; ++i) spectrum.powers.push_back(std::norm(values[i]));
   return spectrum;

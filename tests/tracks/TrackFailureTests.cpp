@@ -1,10 +1,9 @@
 // Every call of the machine fails once while tracks are made: nothing is lost, nothing is left
 // behind, and the user is told and never without a window.
-#include "app/Start.h"
 #include "base/LineReader.h"
 #include "tests/FailureSweep.h"
 #include "tests/Matchers.h"
-#include "tests/SimulatedGame.h"
+#include "tests/StartedPack.h"
 #include "tracks/TrackInWork.h"
 
 namespace {
@@ -12,41 +11,12 @@ namespace {
 using testing::AnyOf;
 using testing::ElementsAre;
 
-const std::string Game = "C:\\Games\\Skidrun2";
-const std::string Tracks = Game + "\\tracks";
+const std::string Tracks = StartedPack::Game + "\\tracks";
 const std::string Race = Tracks + "\\Race.trk";
 const std::string EditorTitle = "SK2 Trackmaker by Orvane Interactive";
 const std::string PartTitle = "New track part";
 const std::string PackTitle = "Skidrun2 Utility Pack V1.0";
 const std::string OnePart = "3\r\n1\r\n7000\r\n";
-
-// A started pack, with an old track and with the program folder in place, so that the language file
-// is written too.
-struct StartedPack {
-  explicit StartedPack(Simulated::Machine& itsMachine) : machine(itsMachine) {
-    InstallGame(machine, Game);
-    machine.files.PutFolder(machine.executable.folder);
-    machine.files.Put(Race, "an old track");
-    StartPack();
-  }
-
-  // Forgets what the user was going to do in a dialog that never came.
-  void ForgetTheRest() {
-    user.script().files.clear();
-    user.script().answers.clear();
-    user.script().modals.clear();
-  }
-
-  bool WasToldOfAFailure() const {
-    for (const Simulated::Box& box : user.Boxes()) {
-      if (box.icon == Platform::Icon::Critical) return true;
-    }
-    return false;
-  }
-
-  Simulated::Machine& machine;
-  Simulated::User& user = machine.user;
-};
 
 // The parts that the open editor lists.
 std::vector<std::string> ShownParts() {
@@ -62,7 +32,7 @@ std::vector<std::string> ShownParts() {
 // Lets each call of an action in the started pack fail in turn.
 void LetEachCallFail(const std::function<void(StartedPack&, Simulated::After)>& action) {
   const auto calls = ForEachCallThatFails([&](auto& machine, Simulated::After after) {
-    StartedPack pack(machine);
+    StartedPack pack(machine, Race, "an old track");
     action(pack, after);
     ASSERT_NE(Platform::ActiveForm(), nullptr);
     EXPECT_TRUE(Platform::ActiveForm()->IsVisible());

@@ -122,6 +122,23 @@ TEST_F(ControlsContract, WhereNothingIsSelectedAnArrowKeySelectsTheFirstRow) {
   }
 }
 
+// Whichever of these keys it is: the reader says the row at which the list begins, and the next key
+// goes on from there.
+TEST_F(ControlsContract, WhereNothingIsSelectedPagingKeysSelectTheFirstRowToo) {
+  OpenWindow();
+  for (const char* key : {"PageUp", "PageDown", "Home", "End"}) {
+    ContractWindow fresh("Fresh");
+    fresh.Servers.SetRows({"hill.example", "lake.example", "moor.example"}, -1);
+    fresh.Show();
+    TestMachine::Press(key);
+    EXPECT_EQ(TestMachine::Hears(), "Servers, list, hill.example, 1 of 3, Alt+S") << key;
+    EXPECT_EQ(fresh.events, Lines{"select 0"}) << key;
+    TestMachine::Press("End");
+    EXPECT_EQ(TestMachine::Hears(), "Servers, list, moor.example, 3 of 3, Alt+S") << key;
+    fresh.Leave();
+  }
+}
+
 TEST_F(ControlsContract, AnArrowKeySelectsTheRowThatWasSelectedLast) {
   OpenWindow();
   window.Servers.Select(1);

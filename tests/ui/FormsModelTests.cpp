@@ -5,8 +5,7 @@
 #include "base/PerRun.h"
 #include "base/RuntimeError.h"
 #include "platform/Executable.h"
-#include "tests/Story.h"
-#include "ui/Forms.h"
+#include "tests/ui/StageStory.h"
 
 namespace {
 
@@ -14,27 +13,14 @@ using namespace Platform;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Tool final : public Form {
- public:
-  explicit Tool(const char* title) : Form(FixedText(title)) {}
-
-  TextBox Name{*this, {.label = FixedText("&Name")}};
-  Button Submit{*this, {.text = FixedText("OK"), .isDefault = true}};
-  Button Ccl{*this, {.text = FixedText("Cancel"), .isCancel = true}};
-};
-
-class FormsModel : public Story {
+class FormsModel : public StageStory {
  protected:
-  FormsModel() { StartProgram(main); }
-
-  std::vector<std::string> Screen() const { return machine.screen.Titles(); }
   void PutTranslation(const std::string& lines) {
     machine.files.Put(PathBesideProgram(".lng"), lines);
   }
 
-  Form main{FixedText("Main")};
-  Tool tool{"Tool"};
-  Tool other{"Other"};
+  StageTool tool{"Tool"};
+  StageTool other{"Other"};
 };
 
 // --- Failures ---
@@ -263,7 +249,7 @@ TEST_F(FormsModel, AWindowThatCannotBeShownLeavesTheStageAsItWas) {
 
 TEST_F(FormsModel, ADestroyedWindowLeavesTheStage) {
   {
-    Tool brief("Brief");
+    StageTool brief("Brief");
     brief.Show();
     EXPECT_EQ(ActiveForm(), &brief);
     MainForm().Show();
@@ -295,9 +281,7 @@ TEST_F(FormsModel, TextsAreLookedUpAtEachLoad) {
 
 TEST_F(FormsModel, AWindowWhoseControlsAreAllDisabledHasTheFocusItself) {
   tool.Show();
-  tool.Name.SetEnabled(false);
-  tool.Submit.SetEnabled(false);
-  tool.Ccl.SetEnabled(false);
+  for (Control* control : tool.controls()) control->SetEnabled(false);
   EXPECT_EQ(user.Hears(), "Tool, window");
 }
 

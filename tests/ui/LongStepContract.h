@@ -121,3 +121,40 @@ TEST_F(LongStepContract, ABoxThatTheStepShowsIsAnswered) {
   TestMachine::Press("Enter");
   EXPECT_EQ(Events(), Lines{}) << "the step goes on";
 }
+
+// The keyboard repeats a key that is held down; nobody means to answer a box with that.
+TEST_F(LongStepContract, AKeyThatIsHeldDownThroughItAnswersNoBoxUntilItIsPressedAnew) {
+  auto answer = Platform::Answer::No;
+  window.Submit.OnClick = [&] {
+    { const Platform::LongStep step; }
+    answer = Platform::MsgBox("It is written. Another one?", "Done", Platform::Icon::Question,
+                              Platform::Buttons::YesNo);
+  };
+  OpenWindow();
+  TestMachine::WhenModalWindowOpens([] {
+    for (int times = 0; times < 3 && TestMachine::ActiveWindow() == "Done"; ++times) {
+      TestMachine::RepeatKey();
+    }
+    EXPECT_EQ(TestMachine::ActiveWindow(), "Done");
+    TestMachine::LetGoOfKeys();
+    TestMachine::Press("N");
+  });
+  TestMachine::HoldDown("Enter");
+  EXPECT_EQ(answer, Platform::Answer::No);
+
+  TestMachine::WhenModalWindowOpens([] {
+    TestMachine::LetGoOfKeys();
+    TestMachine::Press("Enter");
+  });
+  TestMachine::HoldDown("Enter");
+  EXPECT_EQ(answer, Platform::Answer::Yes) << "a key that is pressed anew counts";
+}
+
+TEST_F(LongStepContract, AKeyThatIsHeldDownAfterItIsRepeated) {
+  OpenWindow();
+  { const Platform::LongStep step; }
+  TestMachine::HoldDown("Down");
+  TestMachine::RepeatKey();
+  TestMachine::LetGoOfKeys();
+  EXPECT_EQ(Events(), (Lines{"select 1", "select 2"}));
+}

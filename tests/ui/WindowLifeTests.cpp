@@ -6,10 +6,8 @@
 #include "base/PerRun.h"
 #include "base/RuntimeError.h"
 #include "tests/FailureSweep.h"
-#include "tests/Story.h"
-#include "ui/Forms.h"
+#include "tests/ui/StageStory.h"
 #include "ui/Stage.h"
-#include "ui/Timer.h"
 
 namespace {
 
@@ -17,27 +15,13 @@ using namespace Platform;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Tool final : public Form {
- public:
-  explicit Tool(const char* title) : Form(FixedText(title)) {}
-
-  TextBox Name{*this, {.label = FixedText("&Name")}};
-  ListBox Rows{*this, {.label = FixedText("&Rows")}};
-  Button Submit{*this, {.text = FixedText("OK"), .isDefault = true}};
-  Timer Clock{*this, {.milliseconds = 1000}};
-};
-
-class WindowLife : public Story {
+class WindowLife : public StageStory {
  protected:
-  WindowLife() { StartProgram(main); }
-
-  std::vector<std::string> Screen() const { return machine.screen.Titles(); }
   size_t Loaded() const { return machine.screen.windows.size(); }
 
-  Form main{FixedText("Main")};
-  Tool a{"A"};
-  Tool b{"B"};
-  Tool c{"C"};
+  StageTool a{"A"};
+  StageTool b{"B"};
+  StageTool c{"C"};
 };
 
 // --- Openers ---
@@ -231,7 +215,7 @@ TEST_F(WindowLife, WhatWasPutOffAndFailsIsTold) {
 }
 
 TEST_F(WindowLife, WhatWasPutOffIsForgottenWithItsWindow) {
-  auto brief = std::make_unique<Tool>("Brief");
+  auto brief = std::make_unique<StageTool>("Brief");
   user.WhenWindowOpens("B", [&] {
     brief->Show();
     brief.reset();
@@ -257,7 +241,7 @@ class DestroyedWindow : public WindowLife {
  protected:
   void Destroy() { brief.reset(); }
 
-  std::unique_ptr<Tool> brief = std::make_unique<Tool>("Brief");
+  std::unique_ptr<StageTool> brief = std::make_unique<StageTool>("Brief");
 };
 
 TEST_F(DestroyedWindow, IsNotTouchedAfterTheEvent) {
@@ -299,7 +283,7 @@ TEST_F(DestroyedWindow, IsNotTouchedAfterTheEvent) {
       },
   };
   for (size_t i = 0; i < ways.size(); ++i) {
-    brief = std::make_unique<Tool>("Brief");
+    brief = std::make_unique<StageTool>("Brief");
     brief->Show();
     ways[i]();
     EXPECT_EQ(brief, nullptr) << "way " << i;
@@ -313,10 +297,10 @@ TEST_F(DestroyedWindow, IsNotShownIfItWasDestroyedWhileItLoaded) {
   brief->OnLoad = [this] { Destroy(); };
   brief->Show();
   EXPECT_THAT(Screen(), ElementsAre("Main"));
-  brief = std::make_unique<Tool>("Brief");
+  brief = std::make_unique<StageTool>("Brief");
   brief->OnLoad = [this] { Destroy(); };
   brief->ShowModal();
-  brief = std::make_unique<Tool>("Brief");
+  brief = std::make_unique<StageTool>("Brief");
   brief->OnLoad = [this] {
     Destroy();
     throw RuntimeError(RuntimeError::FileNotFound);
@@ -330,7 +314,7 @@ TEST_F(DestroyedWindow, EndsItsModalLoop) {
   user.WhenWindowOpens("Brief", [this] { Destroy(); });
   brief->ShowModal();
   EXPECT_EQ(ActiveForm(), &main);
-  brief = std::make_unique<Tool>("Brief");
+  brief = std::make_unique<StageTool>("Brief");
   brief->OnUnload = [this] { Destroy(); };
   user.WhenWindowOpens("Brief", [this] { user.ClosesWindow(); });
   brief->ShowModal();
@@ -359,7 +343,7 @@ TEST(WindowFailures, WhateverCannotBeMadeIsToldAndAWindowIsThere) {
     Form main(FixedText("Main"));
     MenuItem Tools(main, {.text = FixedText("&Tools")});
     MenuItem Open(Tools, {.text = FixedText("&Open")});
-    Tool tool("Tool");
+    StageTool tool("Tool");
     main.OnLoad = [&] {
       main.TranslateMenu();
       tool.Clock.Start();

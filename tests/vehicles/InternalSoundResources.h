@@ -4,6 +4,7 @@
 #include <string>
 
 #include "machine/simulated/Machine.h"
+#include "platform/Resources.h"
 #include "tests/WaveBytes.h"
 #include "vehicles/InternalSounds.h"
 
@@ -20,7 +21,7 @@ inline void PutInternalSounds(Simulated::Machine& machine) {
     for (const std::string_view vehicle : kind.names) {
       const std::string name = std::string(vehicle) + std::string(kind.suffix);
       machine.executable.resources.push_back(
-          {InternalSoundResourceType, name,
+          {Platform::SoundResource, name,
            WaveBytes::File(WaveBytes::Format{}, SamplesOfResource(name))});
     }
   }

@@ -304,10 +304,24 @@ TEST_F(SoundTestStory, WithoutADeviceTheEditorWorksAndTheTestSaysWhy) {
   machine.sound.Unplug();
   SetsInternalSound(Engine, "car1");
   Tests(Engine);
-  ExpectRefusal(HasSubstr("Sound is not available."), "Error");
+  ExpectRefusal(
+      "Sound is not available. There is no sound device, or it does not answer.\r\n"
+      "Opening the sound device: system error 0x88780078",
+      "Error");
   SetsNumber(TopSpeed, "250");
   Saves();
   EXPECT_EQ(machine.files.Text(Rocket), "enginesound=car1\r\nskidrun=250\r\n");
+}
+
+TEST_F(SoundTestStory, AFrequencyThatTheDeviceDoesNotKnowIsToldWithTheSystemsCode) {
+  SetsInternalSound(Engine, "car1");
+  SetsNumber(TopFrequency, "150000");
+  machine.sound.SetHighestRate(100'000);
+  Tests(TopFrequency);
+  ExpectRefusal(
+      "A sound cannot be played at this frequency. It must be between 100 and 200000.\r\n"
+      "Setting the frequency of a sound: system error 0x80070057",
+      "Error");
 }
 
 TEST_F(SoundTestStory, ADeviceThatGoesAwayDuringTheIgnitionEndsTheTest) {

@@ -1,49 +1,27 @@
 // Every call of the machine fails once while a vehicle is made: nothing is lost, nothing is left
 // behind, and the user is told and never without a window.
-#include "app/Start.h"
 #include "tests/FailureSweep.h"
 #include "tests/Matchers.h"
-#include "tests/SimulatedGame.h"
+#include "tests/StartedPack.h"
 #include "tests/vehicles/InternalSoundResources.h"
 #include "vehicles/VehicleInWork.h"
 
 namespace {
 
-const std::string Game = "C:\\Games\\Skidrun2";
-const std::string Vehicles = Game + "\\vehicles";
+const std::string Vehicles = StartedPack::Game + "\\vehicles";
 const std::string Rocket = Vehicles + "\\rocket.vhc";
 const std::string Roar = "D:\\Sounds\\roar.wav";
 
 // A started pack with an old vehicle, in whose editor the user is.
-struct EditedVehicle {
-  explicit EditedVehicle(Simulated::Machine& itsMachine) : machine(itsMachine) {
-    InstallGame(machine, Game);
-    machine.files.PutFolder(machine.executable.folder);
-    machine.files.Put(Rocket, "an old vehicle");
+struct EditedVehicle : StartedPack {
+  explicit EditedVehicle(Simulated::Machine& itsMachine)
+      : StartedPack(itsMachine, Rocket, "an old vehicle") {
     machine.files.Put(Roar, "a roar");
     PutInternalSounds(machine);
-    StartPack();
     user.ChoosesFile("rocket.vhc");
     user.AnswersYes();
     user.ChoosesMenu({"Vehicle", "New"});
   }
-
-  // Forgets what the user was going to do in a dialog that never came.
-  void ForgetTheRest() {
-    user.script().files.clear();
-    user.script().answers.clear();
-    user.script().modals.clear();
-  }
-
-  bool WasToldOfAFailure() const {
-    for (const Simulated::Box& box : user.Boxes()) {
-      if (box.icon == Platform::Icon::Critical) return true;
-    }
-    return false;
-  }
-
-  Simulated::Machine& machine;
-  Simulated::User& user = machine.user;
 };
 
 TEST(VehicleFailureSweep, ASoundIsSetAndCopiedWholeOrNeither) {

@@ -183,7 +183,8 @@ std::vector<Scene> VehicleScenes() {
         "C:\\Games\\Skidrun2\\vehicles\\horn.wav",
         "box <RTETitle>: <SoundHasNoData>\r\n<RTEFile> C:\\Games\\Skidrun2\\vehicles\\horn.wav",
         "box <RTETitle>: <SoundTooLarge>\r\n<RTEFile> C:\\Games\\Skidrun2\\vehicles\\horn.wav",
-        "box <RTETitle>: <SoundNotAvailable>",
+        "box <RTETitle>: <SoundNotAvailable>\r\n<RTEOpeningSoundDevice>: <RTESystemError> "
+        "0x88780078",
         "dialog Open Horn Sound: <OpenWavDlgFilter> (*.wav)"}},
   };
 }

@@ -46,6 +46,7 @@ std::optional<Answer> ShowBox(const BoxContents& contents, bool isOwned) {
     const auto answer = ActedAnswer(script.boxes.back(), *action);
     if (answer) return answer;
   }
+  // Nothing can be decided there, so stories need not say that it is closed.
   if (contents.buttons == Buttons::Ok) return Answer::Ok;
   if (script.answers.empty()) {
     Simulated::Complain("an unexpected question: " + text);

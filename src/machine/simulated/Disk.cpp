@@ -76,6 +76,7 @@ std::string KeyOf(const std::string& path) {
       names.push_back(name);
     }
   }
+  // Windows drops them, so "hill.trk." is the file "hill.trk".
   while (!EndsInSeparator(path) && !names.empty()) {
     std::string& last = names.back();
     last.erase(last.find_last_not_of(" .") + 1);
@@ -91,6 +92,7 @@ std::string KeyOf(const std::string& path) {
 
 bool DiskEntry::Allows(const Opening& wanted) const {
   const auto allows = [&](const Opening& other) {
+    // Each must let the other do what it does, as the system asks of both.
     return (!wanted.reads || other.letsRead) && (!wanted.writes || other.letsWrite) &&
            (!other.reads || wanted.letsRead) && (!other.writes || wanted.letsWrite);
   };
@@ -273,6 +275,7 @@ std::vector<const DiskEntry*> Disk::Inside(const std::string& folder) const {
   for (const auto& [place, entry] : entries_) {
     if (Platform::FolderOf(place) == key) inside.push_back(entry.get());
   }
+  // As they were made: who counts on an order by name, which no system promises, is found out.
   std::sort(inside.begin(), inside.end(),
             [](const DiskEntry* a, const DiskEntry* b) { return a->made < b->made; });
   return inside;

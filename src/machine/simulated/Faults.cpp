@@ -2,13 +2,14 @@
 
 namespace Simulated {
 
-void Faults::FailAnyCall(After after) {
+void Faults::FailAnyCall(After after, const std::string& kind) {
   callsLeft_ = after.calls;
+  kind_ = kind;
   failedCall_.clear();
 }
 
 bool Faults::Strikes(const std::string& call) {
-  if (!callsLeft_ || (*callsLeft_)-- > 0) return false;
+  if (!callsLeft_ || !call.starts_with(kind_) || (*callsLeft_)-- > 0) return false;
   callsLeft_.reset();
   failedCall_ = call;
   return true;
@@ -24,6 +25,7 @@ void Faults::RefuseFileCallsFrom(After after, Platform::SystemError error) {
 std::optional<Platform::SystemError> Faults::RefusalOf(const std::string& fileCall,
                                                        Platform::SystemError usual) {
   if (fileCallsLeft_ && (*fileCallsLeft_ <= 0 || (*fileCallsLeft_)-- <= 0)) {
+    // Later calls are refused too; the first one is where the program was ended.
     if (endedAt_.empty()) endedAt_ = fileCall;
     return refusal_;
   }

@@ -18,7 +18,8 @@ class Faults {
  public:
   // One call, the one after the given number of them, fails in the way that its contract names. A
   // call that cannot throw returns its failing result. Only calls that can fail are counted.
-  void FailAnyCall(After after);
+  //   kind  with what the names of the calls begin that count; all if it is empty.
+  void FailAnyCall(After after, const std::string& kind = "");
 
   // True once that call has come and failed.
   bool HasHappened() const { return !failedCall_.empty(); }
@@ -42,6 +43,7 @@ class Faults {
 
  private:
   std::optional<int> callsLeft_;
+  std::string kind_;
   std::string failedCall_;
   std::optional<int> fileCallsLeft_;
   Platform::SystemError refusal_{};

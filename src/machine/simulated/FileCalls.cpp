@@ -117,6 +117,7 @@ SystemError OpenFile::Open(const std::string& path, How how) {
     state_ = std::make_unique<State>(TheDisk().Make(path), how, true);
     return SystemError::None;
   }
+  // The code that Windows has for opening a folder as a file.
   if (file->isFolder) return SystemError::AccessDenied;
   if (!isRead && (file->refusesWrites || file->attributes & Simulated::ReadOnly)) {
     return SystemError::AccessDenied;
@@ -133,6 +134,7 @@ bool OpenFile::IsNew() const {
 SystemError OpenFile::Read(char* buffer, size_t size, size_t& count) {
   DiskEntry& file = *state_->file;
   if (const auto refused = Refusal("Read", file.path, SystemError::DeviceFailed)) return *refused;
+  // A read may give less than was asked for, as those of network drives do.
   size = std::min(size, TheDisk().LargestRead());
   if (!file.hostPath.empty()) {
     state_->hostFile.clear();
@@ -221,6 +223,7 @@ SystemError OpenFile::Rename(const std::string& path, IfThere ifThere) {
   const DiskEntry* there = TheDisk().Find(path);
   if (there && ifThere == IfThere::Fail) return SystemError::AlreadyExists;
   if (RefusesChange(path)) return SystemError::AccessDenied;
+  // A file that somebody has open is not replaced, whatever they share.
   if (there && (there->isFolder || there->IsOpen() || there->refusesWrites ||
                 there->attributes & Simulated::ReadOnly)) {
     return SystemError::AccessDenied;
@@ -329,6 +332,7 @@ std::string TemporaryFolder() {
 }
 
 bool WaitForOthers(int waits) {
+  // As often as the real machine within its patience.
   constexpr int MostWaits = 20;
   if (waits >= MostWaits) return false;
   TheDisk().Waited();

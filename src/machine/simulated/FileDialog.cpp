@@ -70,6 +70,7 @@ std::string FileDialog::Show() const {
     if (typed.empty()) return "";
     std::string path = Completed(*this, typed);
     CheckName(path);
+    // The dialog stays open, and the user types another name.
     if (!IsFolderThere(path) || !MayBeChosen(*this, path)) continue;
     return path;
   }

@@ -46,14 +46,16 @@ std::function<void()> NextModalAction(const Form& form) {
 }
 
 // A window, a menu or a timer for which the system has no room.
-void FailIfStruck(const std::string& call) {
-  if (Simulated::TheMachine().faults.Strikes(call)) throw RuntimeError(RuntimeError::DeviceError);
+void FailIfStruck(const std::string& call, const LangText& step) {
+  constexpr uint32_t NoMoreHandles = 1158;
+  if (!Simulated::TheMachine().faults.Strikes(call)) return;
+  throw RuntimeError(RuntimeError::DeviceError, "", {step, NoMoreHandles});
 }
 
 }  // namespace
 
 FormView::FormView(Form& form) : native_(std::make_unique<Native>(form)) {
-  FailIfStruck("FormView::FormView " + form.title());
+  FailIfStruck("FormView::FormView " + form.title(), RuntimeErrorTexts.MakingWindow);
   for (NativeControl& control : native_->controls) {
     if (control.kind() == Control::Kind::ListBox) Fill(control);
   }
@@ -65,8 +67,9 @@ FormView::~FormView() {
 }
 
 void FormView::Show(FormView*) {
-  FailIfStruck("FormView::Show " + native_->form.title());
+  FailIfStruck("FormView::Show " + native_->form.title(), RuntimeErrorTexts.MeasuringTexts);
   if (Simulated::TheMachine().screen.refusesWindows) throw std::bad_alloc();
+  // A window that comes to the front follows what moved the focus while it was hidden.
   native_->isShown = true;
   native_->FollowFocus();
   native_->Check();
@@ -108,7 +111,7 @@ void FormView::TitleChanged() {
 }
 
 void FormView::MenuChanged() {
-  FailIfStruck("FormView::MenuChanged " + native_->form.title());
+  FailIfStruck("FormView::MenuChanged " + native_->form.title(), RuntimeErrorTexts.MakingMenu);
   native_->ShowMenu();
 }
 
@@ -135,6 +138,7 @@ void FormView::StateChanged(Control& control) {
 void FormView::TextChanged(TextBox& box) {
   NativeControl& shown = native_->Of(box);
   shown.text = box.text();
+  // As in a native text box, whose caret goes to the beginning.
   shown.selection = {};
 }
 
@@ -174,7 +178,7 @@ int FormView::SelectedRow(const ListBox& list) const {
 }
 
 void FormView::StartTimer(Timer& timer) {
-  FailIfStruck("FormView::StartTimer " + native_->form.title());
+  FailIfStruck("FormView::StartTimer " + native_->form.title(), RuntimeErrorTexts.StartingTimer);
   native_->timers[&timer] = Simulated::TheMachine().clock.milliseconds() + timer.milliseconds();
 }
 

@@ -35,6 +35,7 @@ std::string RoleAndState(const NativeControl& control) {
 }  // namespace
 
 std::string Heard(const Window& window) {
+  // A window without a usable control has the focus itself.
   if (!window.focus) return window.title + ", window";
   const NativeControl& control = *window.focus;
   std::string heard = Platform::WithoutAccessKey(control.caption) + RoleAndState(control);

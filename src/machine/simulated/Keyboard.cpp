@@ -147,6 +147,7 @@ void TypeInList(NativeControl& list, char character) {
   const int letter = std::tolower(static_cast<unsigned char>(character));
   const int count = static_cast<int>(list.rows.size());
   for (int step = 1; step <= count; ++step) {
+    // From the row behind the caret on, so that the same letter leads to the next one.
     const int row = (list.caret + step) % count;
     const std::string& text = list.rows[static_cast<size_t>(row)];
     if (!text.empty() && std::tolower(static_cast<unsigned char>(text[0])) == letter) {
@@ -183,6 +184,16 @@ void Keyboard::Press(const std::string& name) {
   Send(key, CharacterOf(key));
 }
 
+void Keyboard::HoldDown(const std::string& name) {
+  // Known before it is pressed: what the key begins may end with a long step, which makes it deaf.
+  heldKey_ = name;
+  Press(name);
+}
+
+void Keyboard::Repeat() {
+  if (!heldKey_.empty()) Press(std::string(heldKey_));
+}
+
 void Keyboard::Type(const std::string& text) {
   for (const char character : text) Send(KeyOf(character), character);
 }
@@ -191,6 +202,7 @@ void Keyboard::Send(const KeyEvent& key, char character) {
   if (OpenBox* box = TheMachine().screen.BoxInUse()) return box->Press(key);
   const Window* window = WindowInUse();
   if (!window) return Complain("there is no window for a key");
+  // An open menu has a loop of its own, and the window sees none of its keys.
   if (menu_.IsOpenIn(*window)) return menu_.Press(key);
   // A key that comes in a long step is dropped before any control sees it.
   if (Platform::LongStep::IsRunning() || window->form.KeyDown(key)) return;

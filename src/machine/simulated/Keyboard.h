@@ -13,6 +13,10 @@ class Keyboard {
  public:
   // Presses a key with its shifting keys: "Enter", "Shift+Tab", "Ctrl+A", "Alt+F4", "Delete".
   void Press(const std::string& name);
+  // Presses a key and keeps it down; the keyboard then repeats it, until it is let go.
+  void HoldDown(const std::string& name);
+  void Repeat();
+  void LetGo() { heldKey_.clear(); }
   // Types the characters of a text, each with its key.
   void Type(const std::string& text);
 
@@ -26,6 +30,7 @@ class Keyboard {
   void PressInDialog(Window& window, const Platform::KeyEvent& key, char character);
   void PressInTextBox(NativeControl& box, const Platform::KeyEvent& key, char character);
 
+  std::string heldKey_;  // empty if none is down
   MenuWalk menu_;
 };
 

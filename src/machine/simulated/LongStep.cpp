@@ -10,6 +10,8 @@ void AnswerMessages() noexcept {
 }
 
 // Keys and clicks are never kept here: those that come in a long step are gone at once.
-void DropInput() noexcept {}
+void DropInput() noexcept {
+  Simulated::TheMachine().user.HeldKeyIsIgnored();
+}
 
 }  // namespace Platform

@@ -27,6 +27,7 @@ Machine::Machine() {
 }
 
 Machine::~Machine() {
+  // First: what the program still holds after its end, it will never let go.
   RunObjects::End();
   for (const std::string& path : files.OpenFiles()) Complain("the program left open: " + path);
   if (!sound.Playing().empty()) Complain("the program left a sound playing");
@@ -37,6 +38,7 @@ Machine::~Machine() {
 
 void Machine::StartAnew() {
   RunObjects::End();
+  // The system closes what an ended program had open; the next one finds all free.
   files.CloseAll();
   faults = {};
 }

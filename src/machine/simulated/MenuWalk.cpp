@@ -42,6 +42,7 @@ void MenuWalk::Press(const Platform::KeyEvent& key) {
     case Key::Up: return Move(level, true);
     case Key::Down: return Move(level, false);
     case Key::Left:
+      // The first level is the bar, the second a menu that hangs from it.
       if (levels_.size() <= 2) return MoveInBar(true);
       levels_.pop_back();
       return;
@@ -73,6 +74,7 @@ void MenuWalk::Enter(const NativeMenuItem& item) {
   if (!item.items.empty()) {
     levels_.push_back({&item.items, 0});
   } else if (item.isEnabled) {
+    // Closed before the item acts, as its action may take the window away.
     levels_.clear();
     item.item->Choose();
   }

@@ -10,6 +10,7 @@ OpenBox::OpenBox(const Box& box)
     : box_(box), isOnSecondButton_(box.buttons == Buttons::YesNoDefaultNo) {}
 
 void OpenBox::Press(const Platform::KeyEvent& key) {
+  if (answer_) return;  // it goes away; later keys do not change what was said
   const bool hasOkAlone = box_.buttons == Buttons::Ok;
   switch (key.code) {
     case Key::Enter:

@@ -38,6 +38,7 @@ void Registry::Delete(RegistryRoot root, RegistryView view, const std::string& s
 
 bool Registry::HasKey(RegistryRoot root, RegistryView view, const std::string& subkey) const {
   const auto [ofRoot, ofView, key, unused] = PlaceOf(root, view, subkey, "");
+  // A key is there if there is a value in it, or in one below it.
   for (const auto& [place, value] : values_) {
     const std::string& known = std::get<2>(place);
     if (std::get<0>(place) == ofRoot && std::get<1>(place) == ofView &&

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "base/RuntimeErrorTexts.h"
 #include "machine/simulated/Machine.h"
 #include "platform/SoundDevice.h"
 #include "ui/Forms.h"
@@ -35,6 +36,7 @@ void Speakers::EndSounds() {
     longest = std::max(longest, sound->wave.Seconds() * sound->wave.rate / sound->rate);
     sound->isPlaying = false;
   }
+  // They do not end before their time: the program measures it.
   TheMachine().clock.Pass(longest);
 }
 
@@ -53,6 +55,7 @@ void Speakers::LoseSounds() {
   SilenceAll();
   for (const auto& sound : Sounds()) {
     sound->isLost = true;
+    // What the memory held is really gone, so that a sound that is not filled anew is heard.
     std::fill(sound->wave.samples.begin(), sound->wave.samples.end(), '\0');
   }
 }
@@ -82,7 +85,20 @@ void Speakers::Note(const SoundInMemory& sound) {
 
 namespace Platform {
 
+using Simulated::SoundCode;
 using Simulated::TheMachine;
+
+namespace {
+[[noreturn]] void Fail(const LangText& step, SoundCode code) {
+  FailWithoutSound({step, static_cast<uint32_t>(code)});
+}
+
+// Fails if the call is to, on a device that is there.
+void Check(const char* call, const LangText& step) {
+  if (TheMachine().faults.Strikes(call)) Fail(step, SoundCode::Generic);
+  if (TheMachine().sound.Refuses(call)) Fail(step, SoundCode::Allocated);
+}
+}  // namespace
 
 struct SoundDevice::Native {
   int number = TheMachine().sound.Device();
@@ -98,7 +114,9 @@ SoundDevice::~SoundDevice() {
 std::unique_ptr<SoundDevice> SoundDevice::Open() {
   Simulated::Machine& machine = TheMachine();
   if (!MainForm().IsLoaded()) Simulated::Complain("the sound device's owner is not loaded");
-  if (machine.faults.Strikes("OpenSoundDevice") || !machine.sound.IsPluggedIn()) return nullptr;
+  const LangText& step = RuntimeErrorTexts.OpeningSoundDevice;
+  Check("OpenSoundDevice", step);
+  if (!machine.sound.IsPluggedIn()) Fail(step, SoundCode::NoDriver);
   machine.sound.Open();
   return std::unique_ptr<SoundDevice>(new SoundDevice);
 }
@@ -108,6 +126,11 @@ struct SoundOnDevice::Native {
   bool Answers(const char* call) const {
     return !TheMachine().faults.Strikes(call) && !sound->isBroken;
   }
+  // Fails if it does not.
+  void Ask(const char* call, const LangText& step) const {
+    Check(call, step);
+    if (sound->isBroken) Fail(step, SoundCode::DeviceGone);
+  }
 
   std::shared_ptr<Simulated::SoundInMemory> sound;
 };
@@ -116,21 +139,21 @@ SoundOnDevice::SoundOnDevice() : native_(std::make_unique<Native>()) {}
 SoundOnDevice::~SoundOnDevice() = default;
 
 std::unique_ptr<SoundOnDevice> SoundOnDevice::Make(SoundDevice& device, const Wave& wave) {
-  if (TheMachine().faults.Strikes("SoundOnDevice")) return nullptr;
+  Check("SoundOnDevice", RuntimeErrorTexts.MakingSoundBuffer);
   auto made = TheMachine().sound.Make(device.native().number, wave);
-  if (!made) return nullptr;
+  if (!made) Fail(RuntimeErrorTexts.MakingSoundBuffer, SoundCode::DeviceGone);
   std::unique_ptr<SoundOnDevice> sound(new SoundOnDevice);
   sound->native_->sound = std::move(made);
   return sound;
 }
 
-bool SoundOnDevice::Play(bool isLooping) {
+void SoundOnDevice::Play(bool isLooping) {
   Simulated::SoundInMemory& sound = *native_->sound;
-  if (!native_->Answers("SoundOnDevice::Play") || sound.isLost) return false;
+  native_->Ask("SoundOnDevice::Play", RuntimeErrorTexts.PlayingSound);
+  if (sound.isLost) Fail(RuntimeErrorTexts.PlayingSound, SoundCode::Lost);
   sound.isPlaying = true;
   sound.isLooping = isLooping;
   TheMachine().sound.Note(sound);
-  return true;
 }
 
 bool SoundOnDevice::Stop() {
@@ -139,12 +162,12 @@ bool SoundOnDevice::Stop() {
   return true;
 }
 
-bool SoundOnDevice::SetFrequency(int rate) {
-  if (!native_->Answers("SoundOnDevice::SetFrequency") || rate > TheMachine().sound.HighestRate()) {
-    return false;
+void SoundOnDevice::SetFrequency(int rate) {
+  native_->Ask("SoundOnDevice::SetFrequency", RuntimeErrorTexts.SettingFrequency);
+  if (rate > TheMachine().sound.HighestRate()) {
+    Fail(RuntimeErrorTexts.SettingFrequency, SoundCode::InvalidParameter);
   }
   native_->sound->rate = rate;
-  return true;
 }
 
 bool SoundOnDevice::Restore(const Wave& wave) {

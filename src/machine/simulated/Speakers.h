@@ -1,6 +1,7 @@
 // The sound device of the simulated machine: what is played on it, and what may become of it.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -8,6 +9,16 @@
 #include "base/Wave.h"
 
 namespace Simulated {
+
+// The codes with which a system's sound library refuses.
+enum class SoundCode : uint32_t {
+  Generic = 0x80004005,
+  InvalidParameter = 0x80070057,
+  Allocated = 0x8878000A,
+  Lost = 0x88780096,
+  NoDriver = 0x88780078,
+  DeviceGone = 0x88890004,
+};
 
 // What is told of one call of Play.
 struct PlayedSound {
@@ -58,6 +69,11 @@ class Speakers {
   // they are silent, and then what it held is gone.
   void LoseSounds();
 
+  // Each device that is there refuses all calls of that name, such as "SoundOnDevice::Play", with
+  // SoundCode::Allocated.
+  void Refuse(const std::string& call) { refused_ = call; }
+  bool Refuses(const std::string& call) const { return refused_ == call; }
+
   // Devices differ in the highest rate that they play.
   void SetHighestRate(int rate) { highestRate_ = rate; }
 
@@ -80,6 +96,7 @@ class Speakers {
 
   std::vector<std::weak_ptr<SoundInMemory>> sounds_;
   std::vector<PlayedSound> played_;
+  std::string refused_;
   int highestRate_ = ::HighestRate;
   int device_ = 1;
   int openings_ = 0;

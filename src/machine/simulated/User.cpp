@@ -130,6 +130,7 @@ void User::ActsDuringLongStep() {
 void User::Waits(int milliseconds) {
   Clock& clock = TheMachine().clock;
   const int64_t end = clock.milliseconds() + milliseconds;
+  // Looked for anew each time: a tick may start and stop others, or take their windows away.
   while (Platform::Timer* timer = NextTimer(end)) timer->Tick();
   if (clock.milliseconds() < end) clock.Pass(Seconds(end - clock.milliseconds()));
 }
@@ -168,6 +169,7 @@ void User::Clicks(const std::string& text) {
   if (const auto [list, row] = FindRow(*window, text); list) return ClickRow(*window, *list, row);
   NativeControl* button = FindButton(*window, text);
   if (!button) return Complain("there is nothing to click: " + text);
+  // A button takes the focus when the mouse goes down, and clicks when it goes up.
   window->FocusByClick(*button);
   button->button().Click();
 }

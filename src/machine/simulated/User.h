@@ -49,6 +49,10 @@ class User {
 
   // Presses a key, such as "Enter", "Alt+S", "Ctrl+Shift+N", "Down".
   void Presses(const std::string& key) { keyboard_.Press(key); }
+  // Presses a key and holds it down; the keyboard repeats it; the user lets it go.
+  void HoldsDown(const std::string& key) { keyboard_.HoldDown(key); }
+  void KeyRepeats() { keyboard_.Repeat(); }
+  void LetsGo() { keyboard_.LetGo(); }
   // Types a text into the focused control, key by key.
   void Types(const std::string& text) { keyboard_.Type(text); }
   void ClosesWindow();
@@ -93,6 +97,8 @@ class User {
   // --- For the machine. ---
   // Does the next of what was to be done in a long step. For the services that wait within one too.
   void ActsDuringLongStep();
+  // What the keyboard repeats from now on reaches nothing, until the user lets go.
+  void HeldKeyIsIgnored() { keyboard_.LetGo(); }
   Script& script() { return script_; }
   void ComplainAboutUnusedSteps() const { script_.ComplainAboutLeftovers(); }
 

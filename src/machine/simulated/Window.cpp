@@ -40,6 +40,7 @@ bool NativeControl::TakesFocus() const {
 
 void NativeControl::SelectRow(int row) {
   selected = row;
+  // Where none is selected any more, the caret stays, as in native lists.
   if (row >= 0) caret = row;
 }
 

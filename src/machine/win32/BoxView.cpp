@@ -28,6 +28,7 @@ UINT StyleOf(Buttons buttons) {
 }  // namespace
 
 std::optional<Answer> ShowBox(const BoxContents& box, bool isOwned) {
+  // Task-modal keeps the other windows of the pack from use even where the box has no owner.
   const int answer = MessageBoxA(isOwned ? ActiveWindow() : nullptr, box.text, box.title,
                                  StyleOf(box.icon) | StyleOf(box.buttons) | MB_TASKMODAL);
   switch (answer) {

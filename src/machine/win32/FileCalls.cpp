@@ -36,6 +36,7 @@ FileAttributes FromNative(DWORD native) {
 }
 
 DWORD ToNative(FileAttributes attributes) {
+  // Never 0, which would leave the attributes as they are where they are set by the handle.
   DWORD native = FILE_ATTRIBUTE_ARCHIVE;
   if (attributes.isReadOnly) native |= FILE_ATTRIBUTE_READONLY;
   if (attributes.isHidden) native |= FILE_ATTRIBUTE_HIDDEN;
@@ -84,6 +85,7 @@ SystemError OpenFile::Open(const std::string& path, How how) {
   Handle handle(CreateFileA(path.c_str(), terms.access, terms.sharing, nullptr, terms.disposition,
                             flags, nullptr));
   if (!handle) return LastError();
+  // That a file was there already is told by this code of a call that went well.
   const bool isNew =
       how == How::New || (how == How::ToAppend && GetLastError() != ERROR_ALREADY_EXISTS);
   // What is new is a file: the names of devices never come as far as here. A path to something else
@@ -110,6 +112,7 @@ SystemError OpenFile::Write(std::string_view bytes) {
     const auto size = static_cast<DWORD>(std::min(bytes.size(), LargestBlock));
     DWORD count = 0;
     if (!WriteFile(state_->handle.get(), bytes.data(), size, &count, nullptr)) return LastError();
+    // Neither progress nor failure: it would go round for ever.
     if (count == 0) return SystemError::DiskFull;
     bytes.remove_prefix(count);
   }
@@ -193,6 +196,7 @@ SystemError Delete(const std::string& path) {
 }
 
 SystemError Rename(const std::string& from, const std::string& to) {
+  // It neither replaces a file nor copies one to another drive: no flag asks for that.
   return ResultOf(MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH));
 }
 

@@ -60,6 +60,7 @@ DWORD StyleOf(const Frame& frame) {
 WORD IdOf(const Control& control, size_t index) {
   if (control.kind() == Control::Kind::Button) {
     const auto& button = static_cast<const Button&>(control);
+    // Enter and Escape reach a dialog as clicks on these two numbers.
     if (button.IsCancel()) return IDCANCEL;
     if (button.IsDefault()) return IDOK;
   }
@@ -124,6 +125,7 @@ void FormView::Native::MakeWindow() {
     return RegisterClassExA(&description);
   }();
   if (!registered) return;
+  // Place and size follow when it is shown the first time.
   window_ = CreateWindowExA(WS_EX_APPWINDOW, WindowClass, "", StyleOf(form_.frame()), CW_USEDEFAULT,
                             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
                             GetModuleHandleA(nullptr), nullptr);
@@ -197,6 +199,7 @@ void FormView::Native::ShowTitle() {
 }
 
 void FormView::Native::ShowMenu() {
+  // Made whole before the old one goes: where that fails, the old menu stays.
   auto menuBar = std::make_unique<MenuBar>(form_.menus());
   menuBar->PutOn(window_);
   menuBar_ = std::move(menuBar);
@@ -250,6 +253,7 @@ void FormView::Native::TimeIsOver(UINT_PTR timerId) {
   const auto found = timers_.find(timerId);
   if (found == timers_.end()) return;
   Timer& timer = *found->second;
+  // Set anew before the tick, which may be the end of the timer and its window.
   const bool mayTick = timer.MayTick();
   SetTimer(window_, timerId, mayTick ? static_cast<UINT>(timer.milliseconds()) : SoonMs, nullptr);
   if (mayTick) timer.Tick();
@@ -295,6 +299,7 @@ std::optional<LRESULT> FormView::Native::HandleSafely(UINT message, WPARAM wPara
 }
 
 std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  // A library's loop dispatches straight to here, without our own loop's asking.
   if (IsHeldBack(message, wParam)) return 0;
   switch (message) {
     case WM_COMMAND: Command(wParam, lParam); return 0;
@@ -304,6 +309,7 @@ std::optional<LRESULT> FormView::Native::Handle(UINT message, WPARAM wParam, LPA
       return 0;
     case WM_CLOSE: form_.CloseRequested(); return 0;
     case WM_ACTIVATE:
+      // The upper half says that the window is an icon, in which nothing can have the focus.
       if (LOWORD(wParam) == WA_INACTIVE || HIWORD(wParam)) return std::nullopt;
       RestoreFocus();
       return 0;

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "machine/win32/HeldKeys.h"
 #include "machine/win32/System.h"
 #include "machine/win32/UserInput.h"
 
@@ -48,6 +49,8 @@ void DropInput() noexcept {
   TakeMessages(WM_NCMOUSEMOVE, WM_NCXBUTTONDBLCLK, 0, drop);
   TakeMessages(WM_COMMAND, WM_SYSCOMMAND, 0, drop);
   TakeMessages(WM_CLOSE, WM_CLOSE, 0, drop);
+  // Last: by taking their messages the system has learnt which keys are down.
+  IgnoreHeldKeys();
 }
 
 }  // namespace Platform

@@ -28,6 +28,7 @@ void MenuBar::Append(HMENU menu, MenuItem& item) {
   UINT_PTR id = FirstCommand + commands_.size();
   OwnedMenu items;
   if (item.items().empty()) {
+    // Its number is its place here: the system tells of a choice by number alone.
     commands_.push_back(&item);
   } else {
     items = MakeMenu(item.items(), false);
@@ -40,6 +41,7 @@ void MenuBar::Append(HMENU menu, MenuItem& item) {
 
 void MenuBar::PutOn(HWND window) {
   const HMENU previous = GetMenu(window);
+  // Most windows have no menu, and setting none would lay the frame out anew.
   if (!previous && !bar_) return;
   if (!SetMenu(window, bar_.get())) FailAt(RuntimeErrorTexts.MakingMenu);
   static_cast<void>(bar_.release());  // goes with the window

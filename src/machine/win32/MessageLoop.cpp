@@ -40,9 +40,11 @@ void HandleMessagesUntil(const std::function<bool()>& isOver) {
   while (!isOver()) {
     const BOOL result = GetMessageA(&message, nullptr, 0, 0);
     if (result == 0) {
+      // Put back for the loop outside of this one, which has to end too.
       PostQuitMessage(static_cast<int>(message.wParam));
       return;
     }
+    // Less is a failure of the call itself, and there is no message.
     if (result > 0) Handle(message);
   }
 }

@@ -47,6 +47,7 @@ std::optional<RegistryValue> QueryRegistryValue(RegistryRoot root, RegistryView 
     return std::nullopt;
   }
   value.bytes.resize(size);
+  // Texts with variables to be expanded are other data: as they stand they name no folder.
   if (type == REG_SZ) value.type = RegistryType::String;
   if (type == REG_DWORD) value.type = RegistryType::Number;
   return value;

@@ -7,6 +7,7 @@
 
 #include <cstring>
 
+#include "base/RuntimeErrorTexts.h"
 #include "machine/win32/FormWindow.h"
 #include "machine/win32/SystemLibrary.h"
 #include "platform/Sound.h"
@@ -37,6 +38,10 @@ size_t SizeInMemory(const Wave& wave) {
   return size * ((DSBSIZE_MIN + size - 1) / size);
 }
 
+void Check(HRESULT result, const LangText& step) {
+  if (FAILED(result)) FailWithoutSound({step, static_cast<uint32_t>(result)});
+}
+
 }  // namespace
 
 struct SoundDevice::Native {
@@ -47,27 +52,29 @@ SoundDevice::SoundDevice() : native_(std::make_unique<Native>()) {}
 SoundDevice::~SoundDevice() = default;
 
 std::unique_ptr<SoundDevice> SoundDevice::Open() {
+  const LangText& step = RuntimeErrorTexts.OpeningSoundDevice;
   IDirectSound8* opened = nullptr;
   // Which code says that there is no device differs from system to system.
-  if (FAILED(DirectSoundCreate8(nullptr, &opened, nullptr))) return nullptr;
+  Check(DirectSoundCreate8(nullptr, &opened, nullptr), step);
   std::unique_ptr<SoundDevice> device(new SoundDevice);
   device->native_->device.reset(opened);
-  if (FAILED(opened->SetCooperativeLevel(WindowOf(MainForm()), DSSCL_NORMAL))) return nullptr;
+  Check(opened->SetCooperativeLevel(WindowOf(MainForm()), DSSCL_NORMAL), step);
   return device;
 }
 
 struct SoundOnDevice::Native {
-  bool Fill(const Wave& wave) const {
+  HRESULT Fill(const Wave& wave) const {
     void* memory = nullptr;
     DWORD size = 0;
-    if (FAILED(buffer->Lock(0, 0, &memory, &size, nullptr, nullptr, DSBLOCK_ENTIREBUFFER))) {
-      return false;
-    }
+    const HRESULT locked =
+        buffer->Lock(0, 0, &memory, &size, nullptr, nullptr, DSBLOCK_ENTIREBUFFER);
+    if (FAILED(locked)) return locked;
     const bool fits = size == SizeInMemory(wave);
     for (size_t begin = 0; fits && begin < size; begin += wave.samples.size()) {
       std::memcpy(static_cast<char*>(memory) + begin, wave.samples.data(), wave.samples.size());
     }
-    return SUCCEEDED(buffer->Unlock(memory, size, nullptr, 0)) && fits;
+    const HRESULT unlocked = buffer->Unlock(memory, size, nullptr, 0);
+    return fits ? unlocked : DSERR_GENERIC;
   }
 
   Owned<IDirectSoundBuffer> buffer;
@@ -89,18 +96,18 @@ std::unique_ptr<SoundOnDevice> SoundOnDevice::Make(SoundDevice& device, const Wa
   description.dwFlags = SoundBufferFlags;
   description.dwBufferBytes = static_cast<DWORD>(SizeInMemory(wave));
   description.lpwfxFormat = &format;
+  const LangText& step = RuntimeErrorTexts.MakingSoundBuffer;
   IDirectSoundBuffer* buffer = nullptr;
-  if (FAILED(device.native().device->CreateSoundBuffer(&description, &buffer, nullptr))) {
-    return nullptr;
-  }
+  Check(device.native().device->CreateSoundBuffer(&description, &buffer, nullptr), step);
   std::unique_ptr<SoundOnDevice> sound(new SoundOnDevice);
   sound->native_->buffer.reset(buffer);
-  if (!sound->native_->Fill(wave)) return nullptr;
+  Check(sound->native_->Fill(wave), step);
   return sound;
 }
 
-bool SoundOnDevice::Play(bool isLooping) {
-  return SUCCEEDED(native_->buffer->Play(0, 0, isLooping ? DSBPLAY_LOOPING : 0));
+void SoundOnDevice::Play(bool isLooping) {
+  Check(native_->buffer->Play(0, 0, isLooping ? DSBPLAY_LOOPING : 0),
+        RuntimeErrorTexts.PlayingSound);
 }
 
 bool SoundOnDevice::Stop() {
@@ -108,12 +115,13 @@ bool SoundOnDevice::Stop() {
   return SUCCEEDED(native_->buffer->SetCurrentPosition(0)) && isStopped;
 }
 
-bool SoundOnDevice::SetFrequency(int rate) {
-  return SUCCEEDED(native_->buffer->SetFrequency(static_cast<DWORD>(rate)));
+void SoundOnDevice::SetFrequency(int rate) {
+  Check(native_->buffer->SetFrequency(static_cast<DWORD>(rate)),
+        RuntimeErrorTexts.SettingFrequency);
 }
 
 bool SoundOnDevice::Restore(const Wave& wave) {
-  return SUCCEEDED(native_->buffer->Restore()) && native_->Fill(wave) &&
+  return SUCCEEDED(native_->buffer->Restore()) && SUCCEEDED(native_->Fill(wave)) &&
          SUCCEEDED(native_->buffer->SetCurrentPosition(0));
 }
 
