@@ -60,7 +60,7 @@ TEST_F(Update, IsOfferedFetchedAndStartedAndThePackEnds) {
   EXPECT_EQ(pack.AnswerBox("Y"), Prompt());
   EXPECT_EQ(pack.program().WaitForEnd(), 0U);
   const Start start = StartOf(updater());
-  EXPECT_EQ(start.arguments, " /SP- /SILENT /SUPPRESSMSGBOXES /NOCANCEL");
+  EXPECT_EQ(start.arguments, "/SP- /SILENT /SUPPRESSMSGBOXES /NOCANCEL");
   EXPECT_TRUE(start.isMinimised);
   EXPECT_EQ(ReadFile(updater()), ProgramToStart());
   // The next start takes it away.

@@ -20,8 +20,7 @@ struct RuntimeErrorTextTable {
                          "The file name is too long or holds characters that cannot be used."};
   LangText FileAlreadyExists{"RTEFileAlreadyExists", "There is a file of that name already."};
   LangText SystemLibrary{"RTESystemLibrary", "A part of Windows could not be loaded."};
-  LangText ClipboardInUse{"RTEClipboardInUse",
-                          "The clipboard is in use by another program."};
+  LangText ClipboardInUse{"RTEClipboardInUse", "The clipboard is in use by another program."};
   LangText NoProgram{"RTENoProgram", "The program could not be started."};
   LangText Unexpected{"RTEUnexpected", "An unexpected error occurred."};
   LangText SaveHalfDone{
