@@ -79,7 +79,8 @@ TEST_P(Keys, TheAccessKeyOfALabelMovesTheFocusToItsControl) {
       "TrackPartsQuestionText=&How many?\r\nSelectItem=Select an &item:\r\n"
       "InternalSoundsText=So&unds:\r\nLanguageChangerText=Select &Language:\r\n"
       "SelectIPPrompt=IP &List:\r\nIPTextPrompt=&IP:\r\nPackageDownloaderText=SK2 c&omponent:\r\n"
-      "FileListText=&File:\r\nPIPVPrompt=&IP:\r\n");
+      "FileListText=&File:\r\nPIPVPrompt=&IP:\r\nSelectOption=Select an &option:\r\n"
+      "AudioDevicesText=Input &Devices:\r\n");
   const Window window = Open();
   int keys = 0;
   for (const Window& control : TabStops(window)) {

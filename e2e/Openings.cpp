@@ -15,7 +15,19 @@ void OpenVehicleEditor(Pack& pack) {
   pack.WaitForWindow("Create Vehicle");
 }
 
+void OpenTrackOptions(Pack& pack) {
+  pack.ChooseMenu({"Track", "Package"});
+  pack.ChooseFile("hill.trk");
+  pack.WaitForWindow("Track description sound doesn't exist. What to do?");
+}
+
 void WaitForMainWindow(Pack& pack) {
+  pack.WaitForMain();
+}
+
+// Where leaving is told.
+void AnswerAborted(Pack& pack) {
+  pack.AnswerBox();
   pack.WaitForMain();
 }
 
@@ -69,6 +81,21 @@ std::vector<Opening> Openings() {
          pack.Press("Escape");
          pack.WaitForMain();
        }},
+      {"TrkWavOptions", "Track description sound doesn't exist. What to do?", OpenTrackOptions,
+       AnswerAborted},
+      {"VhcWavOptions", "Vehicle description sound doesn't exist. What to do?",
+       [](Pack& pack) {
+         pack.ChooseMenu({"Vehicle", "Package"});
+         pack.ChooseFile("Hornet\\Hornet.vhc");
+       },
+       AnswerAborted},
+      {"AudioDevice", "Choose recording device",
+       [](Pack& pack) {
+         OpenTrackOptions(pack);
+         pack.Press("Down");
+         pack.Press("Enter");
+       },
+       AnswerAborted},
       {"IPView", "Personal IP Viewer",
        [](Pack& pack) {
          pack.ChooseMenu({"Internet", "Personal IP Viewer"});
@@ -92,10 +119,7 @@ std::vector<Opening> Openings() {
          pack.ChooseFile("keyboard");
          pack.AnswerBox("N");
        },
-       [](Pack& pack) {
-         pack.AnswerBox();
-         pack.WaitForMain();
-       }},
+       AnswerAborted},
   };
 }
 

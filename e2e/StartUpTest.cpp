@@ -43,12 +43,12 @@ TEST_F(StartUp, MenusStandInTheirOrder) {
                         "&Vehicle",                           //
                         "  &New (CTRL+N)",                    //
                         "  &Check .vhc file (CTRL+C)",        //
-                        "  &Package (CTRL+P) [grey]",         //
+                        "  &Package (CTRL+P)",                //
                         "&Track",                             //
                         "  &New (CTRL+N)",                    //
                         "  &Random Track",                    //
                         "  &Check .trk file (CTRL+C)",        //
-                        "  &Package (CTRL+P) [grey]",         //
+                        "  &Package (CTRL+P)",                //
                         "&Language",                          //
                         "  &Change current language",         //
                         "&Internet",                          //

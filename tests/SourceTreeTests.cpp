@@ -380,12 +380,13 @@ TEST(SourceTree, TheProgramTakesNothingFromOthers) {
 
 // The rules of accessibility are checked in the windows that the tests of the program can open.
 TEST(SourceTree, EveryWindowIsOneThatTheTestsOfTheProgramOpen) {
-  // A base, the main window, and the one that stands there only while the pack is busy, at which
-  // the tests of downloads look.
-  const std::set<std::string> others = {"Chooser", "SK2UtilityPack", "Progress"};
+  // Bases; the main window; and windows that are opened where they are tested: those that record,
+  // which have no controls, and the one that stands there only while the pack is busy.
+  const std::set<std::string> others = {"Chooser", "WavOptions", "SK2UtilityPack",
+                                        "RecordingWindow", "Progress"};
   const std::string openings = ProjectFile::BytesOf("e2e/Openings.cpp");
   const std::regex window(
-      "class (\\w+) (?:final )?: public (?:Platform::)?(?:Form|Chooser|InputBox)\\b");
+      "class (\\w+) (?:final )?: public (?:Platform::)?(?:Form|Chooser|InputBox|WavOptions)\\b");
   std::set<std::string> windows;
   for (const SourceFile& file : AllFiles()) {
     if (!IsIn(file.path, "src") || IsIn(file.path, "src/ui")) continue;

@@ -46,11 +46,6 @@ struct AppTextTable {
   LangText CheckWhatText{"CheckWhatText", "Check:"};
   LangText RecFile{"RecFile", "Records file"};
 
-  // A tool that a chooser offers and this version lacks.
-  LangText NotAvailableText{"NotAvailableText",
-                            "This tool is not part of this version of the pack."};
-  LangText NotAvailableTitle{"NotAvailableTitle", "Notice"};
-
   // The About box.
   LangText About{"About", "About"};
   LangText Information{"Information", "information"};

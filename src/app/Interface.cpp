@@ -1,13 +1,14 @@
 #include "app/Interface.h"
 
 #include "app/About.h"
-#include "app/AppTexts.h"
 #include "base/PerRun.h"
 #include "game/Addresses.h"
 #include "internet/IPView.h"
 #include "internet/PackageDownloader.h"
 #include "internet/ServerManager.h"
 #include "language/LanguageChanger.h"
+#include "packaging/TrackPackager.h"
+#include "packaging/VehiclePackager.h"
 #include "platform/Executable.h"
 #include "platform/ShellOpen.h"
 #include "records/HighScores.h"
@@ -15,7 +16,6 @@
 #include "tracks/RandomTrackmaker.h"
 #include "tracks/TrackManager.h"
 #include "tracks/Trackmaker.h"
-#include "ui/Messages.h"
 #include "update/Updater.h"
 #include "vehicles/CarManager.h"
 #include "vehicles/NewCar.h"
@@ -28,6 +28,9 @@ void NewVehicle() {
 void CheckVehicle() {
   CarManager::CheckVehicleMenu();
 }
+void PackageVehicle() {
+  VehiclePackager::PackageVehicle(false);
+}
 
 void NewTrack() {
   ::NewTrack();
@@ -37,6 +40,9 @@ void RandomTrack() {
 }
 void CheckTrack() {
   TrackManager::CheckTrackMenu();
+}
+void PackageTrack() {
+  TrackPackager::PackageTrack(false);
 }
 
 void ChangeLanguage() {
@@ -78,11 +84,6 @@ void VisitMaker() {
 }
 void ShowAbout() {
   About::ShowAbout();
-}
-
-void TellNotAvailable() {
-  Messages::Show(AppTexts.NotAvailableText, AppTexts.NotAvailableTitle,
-                 Platform::Icon::Information);
 }
 
 }  // namespace Interface

@@ -6,10 +6,12 @@ namespace Interface {
 
 void NewVehicle();
 void CheckVehicle();
+void PackageVehicle();
 
 void NewTrack();
 void RandomTrack();
 void CheckTrack();
+void PackageTrack();
 
 // The language changer takes the main window's place, unless no language is installed.
 void ChangeLanguage();
@@ -34,8 +36,5 @@ void ViewDocumentation();
 void VisitPublisher();
 void VisitMaker();
 void ShowAbout();
-
-// Says that a tool which a chooser offers does not exist in this version of the pack.
-void TellNotAvailable();
 
 }  // namespace Interface

@@ -5,6 +5,6 @@
 
 PackageWhat::PackageWhat()
     : Chooser(AppTexts.PackageWhatTitle, AppTexts.PackageWhatPrompt,
-              {{AppTexts.Vehicle, Interface::TellNotAvailable},
-               {AppTexts.Track, Interface::TellNotAvailable}},
+              {{AppTexts.Vehicle, Interface::PackageVehicle},
+               {AppTexts.Track, Interface::PackageTrack}},
               MainWindow::StaysHidden) {}

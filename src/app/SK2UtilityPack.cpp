@@ -71,9 +71,11 @@ SK2UtilityPack::SK2UtilityPack()
   FClose.OnClick = [this] { Unload(); };
   VNew.OnClick = Interface::NewVehicle;
   VCheck.OnClick = Interface::CheckVehicle;
+  VPackage.OnClick = Interface::PackageVehicle;
   TNew.OnClick = Interface::NewTrack;
   TRandom.OnClick = Interface::RandomTrack;
   TCheck.OnClick = Interface::CheckTrack;
+  TPackage.OnClick = Interface::PackageTrack;
   LPChangeLang.OnClick = Interface::ChangeLanguage;
   IServerSelect.OnClick = Interface::SelectServer;
   IPersonalIPViewer.OnClick = Interface::ViewPersonalIP;

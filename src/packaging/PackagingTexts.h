@@ -29,6 +29,21 @@ struct PackagingTextTable {
   LangText VStartRecordingTitle{"VStartRecordingTitle", "Start recording"};
   LangText HappyWithRecordingText{"HappyWithRecordingText", "Are you happy with this recording?"};
   LangText HappyWithRecordingTitle{"HappyWithRecordingTitle", "Recording complete"};
+  LangText AudioManRecording{"AudioManRecording", "Recording. Press space bar to stop."};
+  LangText AudioManPlaying{"AudioManPlaying", "Playing your recording."};
+  // Why nothing is recorded, or no more.
+  LangText RecordingNoTrack{
+      "RecordingNoTrack",
+      "A device that is chosen here records the description of a track, and no track has been "
+      "chosen. Nothing was recorded."};
+  LangText RecordingNoDevice{"RecordingNoDevice", "The recording device is not there any more."};
+  LangText RecordingForbidden{
+      "RecordingForbidden",
+      "Windows keeps the microphone from programs. You can change this in its privacy settings."};
+  LangText RecordingInUse{"RecordingInUse", "Another program is using the recording device."};
+  LangText RecordingDeviceFailed{"RecordingDeviceFailed",
+                                 "The recording device does not answer, or gives no more sound."};
+  LangText RecordingFileFailed{"RecordingFileFailed", "The recording could not be written."};
 
   // The track packager. The two aborted texts differ in the capital letter of the packager.
   LangText PAbortedNoTrackFileText{"PAbortedNoTrackFileText",
@@ -67,5 +82,9 @@ struct PackagingTextTable {
   LangText CPackagerSuccessfulTitle{"CPackagerSuccessfulTitle", "Congratulations!"};
   LangText CPackagerAbortedNoWaveFileText{"CPackagerAbortedNoWaveFileText",
                                           "Car packager aborted. No wave file."};
+
+  // Both packagers.
+  LangText PackagedIntoItself{"PackagedIntoItself",
+                              "A file that is to be packaged has the name of the archive."};
 };
 inline constexpr PackagingTextTable PackagingTexts;

@@ -148,12 +148,16 @@ TEST_F(ChooserStory, AToolThatFailsBringsTheMainWindowBack) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
-TEST_F(ChooserStory, AToolThatThisVersionLacksIsSaidToBeMissing) {
-  user.Presses("Ctrl+P");
-  user.Presses("Enter");
-  EXPECT_THAT(user.LastBox(), Shows(Platform::Icon::Information,
-                                    "This tool is not part of this version of the pack."));
-  EXPECT_EQ(user.SeesWindow(), PackTitle);
+TEST_F(ChooserStory, ThePackageChooserRunsThePackagers) {
+  for (const auto& [key, text] : {std::pair{"Home", "Car Packager aborted. No file selected."},
+                                  std::pair{"End", "Track Packager aborted. No file selected."}}) {
+    user.CancelsFileDialog();
+    user.Presses("Ctrl+P");
+    user.Presses(key);
+    user.Presses("Enter");
+    EXPECT_THAT(user.LastBox(), Shows(Platform::Icon::Information, text, "Aborted"));
+    EXPECT_EQ(user.SeesWindow(), PackTitle);
+  }
 }
 
 TEST_F(ChooserStory, TheTextsAreThoseOfTheLanguageFile) {

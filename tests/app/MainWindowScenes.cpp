@@ -64,13 +64,6 @@ std::vector<Scene> MainWindowScenes() {
         "window <CheckWhatTitle>: [<CheckWhatText>, list, <Vehicle>, 1 of 3 / <Vehicle> / <Track> "
         "/ <RecFile>] [<OKButton>, button] [<CclButton>, button]"}},
 
-      {"a tool that is still to come",
-       [](Player& player) {
-         player.user.Presses("Ctrl+P");
-         player.user.Presses("Enter");
-       },
-       {"box <NotAvailableTitle>: <NotAvailableText>"}},
-
       {"the file dialogs",
        [](Player& player) {
          const FileDialogs& all = SharedDialogs();

@@ -52,9 +52,9 @@ TEST_F(StartUpStory, TheMenuHasItsItemsInOrder) {
   EXPECT_THAT(MainMenu(),
               ElementsAre("&File", "  &Close (Alt+F4)",                                          //
                           "&Vehicle", "  &New (CTRL+N)", "  &Check .vhc file (CTRL+C)",          //
-                          "  -&Package (CTRL+P)",                                                //
+                          "  &Package (CTRL+P)",                                                 //
                           "&Track", "  &New (CTRL+N)", "  &Random Track",                        //
-                          "  &Check .trk file (CTRL+C)", "  -&Package (CTRL+P)",                 //
+                          "  &Check .trk file (CTRL+C)", "  &Package (CTRL+P)",                  //
                           "&Language", "  &Change current language",                             //
                           "&Internet", "  &Select Server", "  Personal &IP Viewer",              //
                           "  &Package Downloader",                                               //

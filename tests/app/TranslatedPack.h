@@ -121,6 +121,7 @@ struct Scene {
 std::vector<Scene> MainWindowScenes();
 std::vector<Scene> VehicleScenes();
 std::vector<Scene> TrackScenes();
+std::vector<Scene> PackagingScenes();
 std::vector<Scene> RecordScenes();
 std::vector<Scene> LanguageScenes();
 std::vector<Scene> ServerScenes();

@@ -5,7 +5,6 @@
 // TextsOfToolsToCome().
 #include <set>
 
-#include "packaging/PackagingTexts.h"
 #include "tests/app/TranslatedPack.h"
 #include "vehicles/VehicleTexts.h"
 
@@ -19,6 +18,7 @@ const std::vector<Scene>& Scenes() {
     for (const auto& ofTool : {MainWindowScenes,  //
                                VehicleScenes,     //
                                TrackScenes,       //
+                               PackagingScenes,   //
                                RecordScenes,      //
                                LanguageScenes,    //
                                ServerScenes,      //
@@ -42,7 +42,6 @@ std::set<std::string> TextsOfToolsToCome() {
   // The engine of a test is always one of the game's own, which cannot be missing.
   add(VehicleTexts.IgnitionEngineNonexistentText);
   add(VehicleTexts.IgnitionEngineNonexistentTitle);
-  for (const LangText& text : TextsOf(PackagingTexts)) add(text);
   return keys;
 }
 
