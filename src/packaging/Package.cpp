@@ -16,8 +16,9 @@ namespace {
 
 // Characters, not bytes: a name that is typed without an extension may end in letters of two.
 std::string WithLastThree(const std::string& path, const char* replacement) {
+  const std::string_view text = path;
   std::vector<size_t> starts;
-  for (size_t at = 0; at < path.size(); at += Platform::CharacterLength(path.substr(at))) {
+  for (size_t at = 0; at < text.size(); at += Platform::CharacterLength(text.substr(at))) {
     starts.push_back(at);
   }
   const size_t kept = starts.size() < 3 ? 0 : starts[starts.size() - 3];

@@ -5,11 +5,13 @@
 
 #include "machine/simulated/Window.h"
 #include "platform/WaveFile.h"
+#include "tests/FailureSweep.h"
 #include "tests/packaging/PackagingStory.h"
 #include "tracks/TrackInWork.h"
 
 namespace {
 
+using Packaged::File;
 using Platform::Icon;
 using Platform::RecordingFailure;
 using testing::ElementsAre;
@@ -380,6 +382,44 @@ TEST(RecorderAtTheEnd, AProgramThatEndsWhileItRecordsLeavesAWholeFile) {
   RunObjects::End();
   EXPECT_FALSE(machine.microphone.IsOpen());
   EXPECT_EQ(Platform::ReadWaveFile("C:\\Game\\hill.wav").Frames(), 44100u);
+}
+
+TEST(RecorderSweep, WhateverFailsTheTrackIsThereOrItsArchive) {
+  const std::string tracks = "C:\\Games\\Skidrun2\\tracks";
+  const auto calls = ForEachCallThatFails([&](Simulated::Machine& machine, Simulated::After after) {
+    Simulated::User& user = machine.user;
+    InstallGame(machine, "C:\\Games\\Skidrun2");
+    machine.files.Put(tracks + "\\hill.trk", "a track");
+    StartPack();
+    machine.FailAnyCall(after);
+    user.ChoosesFile("hill.trk");
+    user.AnswersYes();
+    user.ChoosesMenu({"Track", "Package"});
+    if (user.SeesWindow().ends_with("What to do?")) {
+      user.Presses("Down");
+      user.Presses("Enter");
+    }
+    if (user.SeesWindow() == "Choose recording device") user.Presses("Enter");
+    if (user.SeesWindow() == "Recording...") {
+      user.Waits(300);
+      user.Presses("Space");
+    }
+    for (int i = 0; i < 40 && user.SeesWindow() == "Recording..."; ++i) user.Waits(50);
+    // A window whose successor could not be shown, or whose question came to nothing.
+    if (user.SeesWindow() == "Recording...") user.Presses("Escape");
+    user.script().files.clear();
+    user.script().answers.clear();
+    if (!machine.FailureHappened()) machine.faults = {};
+    EXPECT_FALSE(machine.microphone.IsOpen());
+    EXPECT_THAT(machine.screen.Titles(), SizeIs(1));
+    const std::string archive = tracks + "\\hill.zip";
+    EXPECT_TRUE(machine.files.Exists(archive)
+                    ? Packaged::In(archive).at(1) == (File{"hill.trk", "a track"})
+                    : machine.files.Text(tracks + "\\hill.trk") == "a track");
+  });
+  EXPECT_THAT(calls, testing::Contains(HasSubstr("Recorder::Start")));
+  EXPECT_THAT(calls, testing::Contains(HasSubstr("Recorder::Stop")));
+  EXPECT_THAT(calls, testing::Contains(HasSubstr("RecordingDevices")));
 }
 
 // --- Vehicles ---
