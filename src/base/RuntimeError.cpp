@@ -6,7 +6,7 @@ namespace {
 
 LangText UsualCause(RuntimeError::Number number) {
   switch (number) {
-    case RuntimeError::InvalidCall: return RuntimeErrorTexts.InvalidCall;
+    case RuntimeError::InvalidCall:
     case RuntimeError::SubscriptOutOfRange: return RuntimeErrorTexts.InvalidCall;
     case RuntimeError::Overflow: return RuntimeErrorTexts.Overflow;
     case RuntimeError::OutOfMemory: return RuntimeErrorTexts.OutOfMemory;

@@ -69,9 +69,9 @@ bool IsInstallable(int kind, std::string_view fileName) {
 }
 
 std::string TargetFolderOf(int kind, const std::string& fileName) {
-  const std::string folder = Application::GameFolder() + KindAt(kind).folder;
-  if (kind != Language) return folder;
-  return folder + "\\" + std::string(WithoutExtension(fileName));
+  std::string folder = Application::GameFolder() + KindAt(kind).folder;
+  if (kind == Language) folder.append("\\").append(WithoutExtension(fileName));
+  return folder;
 }
 
 }  // namespace Components

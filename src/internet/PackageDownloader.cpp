@@ -37,6 +37,7 @@ void PackageDownloader::ShowComponentFiles(int kind) {
 
 void PackageDownloader::Form_Load() {
   std::vector<std::string> kinds;
+  kinds.reserve(Components::Count);
   for (int kind = 0; kind < Components::Count; ++kind) {
     kinds.push_back(GetLangString(Components::NameOf(kind)));
   }

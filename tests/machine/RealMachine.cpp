@@ -153,6 +153,11 @@ void RealMachine::PutBackSeparators() {
 void RealMachine::PutBackRegistry() {
   for (const HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
     for (const REGSAM view : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
+      // With the keys below it, for which another call is needed.
+      HKEY key = nullptr;
+      if (RegOpenKeyExA(root, TestMachine::Subkey, 0, KEY_ALL_ACCESS | view, &key) != 0) continue;
+      RegDeleteTreeA(key, nullptr);
+      RegCloseKey(key);
       RegDeleteKeyExA(root, TestMachine::Subkey, view, 0);
     }
   }
