@@ -126,6 +126,17 @@ TEST_F(PackageDownloaderStory, AnotherKindCanBeChosen) {
   EXPECT_EQ(user.SeesWindow(), PackTitle);
 }
 
+TEST_F(PackageDownloaderStory, TheKindsAreHeardEachTimeTheyAreOpened) {
+  OpensDownloader();
+  user.Presses("Down");
+  user.Presses("Tab");
+  user.Presses("Enter");
+  EXPECT_EQ(user.SeesWindow(), Files);
+  user.Presses("Escape");
+  OpensDownloader();
+  EXPECT_EQ(user.Hears(), "Select SK2 component:, list, Car, 1 of 3");
+}
+
 TEST_F(PackageDownloaderStory, EveryWayOutOfTheFilesLeadsToTheMainWindow) {
   for (const char* key : {"Escape", "Alt+F4"}) {
     ChoosesKind(0);

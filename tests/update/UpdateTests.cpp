@@ -174,6 +174,18 @@ TEST_F(UpdateStory, AnOldInstallerThatStillRunsKeepsTheNewOneAway) {
   machine.files.Release(UpdaterFile);
 }
 
+TEST_F(UpdateStory, AnOldInstallerThatCannotBeDeletedIsNotStartedEither) {
+  Publish("2");
+  StartPack();
+  machine.files.Put(UpdaterFile, "MZ old");
+  machine.files.SetAttributes(UpdaterFile, Simulated::ReadOnly);
+  user.AnswersYes();
+  Checks();
+  EXPECT_EQ(user.LastBox().icon, Icon::Critical);
+  EXPECT_THAT(machine.launches.All(), IsEmpty());
+  EXPECT_EQ(user.SeesWindow(), Title);
+}
+
 TEST_F(UpdateStory, WithoutSwitchesTheInstallerIsStartedByItself) {
   StartPack();
   Updater::RunUpdater(Installer, "C:\\Program Files\\SK2Pack", false);
