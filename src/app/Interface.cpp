@@ -52,6 +52,7 @@ void ChangeLanguage() {
 void SelectServer() {
   PerRun<ServerManager>().LoadIPList();
 }
+
 void ViewPersonalIP() {
   ShowPersonalIPViewer();
 }

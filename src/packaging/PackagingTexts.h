@@ -86,5 +86,8 @@ struct PackagingTextTable {
   // Both packagers.
   LangText PackagedIntoItself{"PackagedIntoItself",
                               "A file that is to be packaged has the name of the archive."};
+  LangText SoundOutsideVehicleFolder{
+      "SoundOutsideVehicleFolder",
+      "The vehicle names a sound outside of its own folder. Packaging would delete it there."};
 };
 inline constexpr PackagingTextTable PackagingTexts;

@@ -74,6 +74,10 @@ void PackageVehicle(bool descriptionReady) {
   std::vector<std::string> files{Package::DescriptionPathOf(vehicle), vehicle};
   for (const auto& sound : VehicleSounds::FilesOf(vehicle)) {
     if (!Platform::FileExists(sound.path)) return TellMissing(sound.variable);
+    if (!sound.isInside) {
+      throw RuntimeError(RuntimeError::InvalidCall, PackagingTexts.SoundOutsideVehicleFolder,
+                         sound.path);
+    }
     files.push_back(sound.path);
   }
   Package::PackAndDelete(vehicle, files);

@@ -23,6 +23,18 @@ bool IsInternal(VehicleVariable variable, std::string_view value) {
   return std::ranges::find(names, value) != names.end();
 }
 
+// Vehicles come from the web too, and what is packaged is deleted: a name that leads out of the
+// folder, by "..", a drive or in any other way, must not choose what is.
+bool StaysInside(std::string_view value) {
+  for (;;) {
+    const std::string folder = Platform::FolderOf(value);
+    const std::string name = Platform::NameOf(value);
+    if (!Platform::IsPlainFileName(name)) return false;
+    if (name.size() == value.size()) return true;
+    value = value.substr(0, folder.size());
+  }
+}
+
 }  // namespace
 
 std::vector<Sound> FilesOf(const std::string& vehiclePath) {
@@ -37,7 +49,8 @@ std::vector<Sound> FilesOf(const std::string& vehiclePath) {
   std::vector<Sound> sounds;
   for (size_t i = 0; i < Variables.size(); ++i) {
     if (values[i].empty() || IsInternal(Variables[i], values[i])) continue;
-    sounds.push_back({Variables[i], Platform::FolderOf(vehiclePath) + "\\" + values[i]});
+    sounds.push_back(
+        {Variables[i], Platform::FolderOf(vehiclePath) + "\\" + values[i], StaysInside(values[i])});
   }
   return sounds;
 }

@@ -15,7 +15,8 @@ inline constexpr std::array Variables{VehicleVariable::EngineSound, VehicleVaria
 
 struct Sound {
   VehicleVariable variable;
-  std::string path;  // beside the vehicle file
+  std::string path;       // the vehicle's folder, "\\" and what the vehicle names
+  bool isInside = false;  // in that folder or in one below it
 };
 
 // The sound files that a vehicle names, in the order of the variables, whether or not they are

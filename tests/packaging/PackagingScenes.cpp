@@ -114,6 +114,16 @@ std::vector<Scene> PackagingScenes() {
         "dialog <OpenVehicleDlgTitle>: <VehicleFilter> (*.vhc)",
         "dialog <OpenVehicleDlgTitle>: <VehicleFilter> (*.vhc)"}},
 
+      {"a sound outside of the vehicle's folder",
+       [](Player& player) {
+         player.machine.files.Put(Game + "\\vehicles\\a.wav", "spoken");
+         player.machine.files.Put(Game + "\\vehicles\\..\\horn.wav", "a horn");
+         PackagesVehicle(player, "hornsound=..\\horn.wav");
+       },
+       {"box <RTETitle>: <SoundOutsideVehicleFolder>\r\n<RTEFile> "
+        "c:\\games\\skidrun2\\vehicles\\..\\horn.wav",
+        "dialog <OpenVehicleDlgTitle>: <VehicleFilter> (*.vhc)"}},
+
       {"an archive that would be packaged into itself",
        [](Player& player) {
          player.machine.files.Put(Game + "\\vehicles\\a.wav", "spoken");

@@ -139,11 +139,29 @@ TEST_F(VehiclePackagerStory, ASoundThatIsNamedTwiceIsPackedAndDeletedOnce) {
   EXPECT_THAT(machine.files.Names(Vehicles), ElementsAre("rocket.zip"));
 }
 
-TEST_F(VehiclePackagerStory, SoundsInOtherFoldersArePackedUnderTheirPlainNames) {
-  PutVehicle("enginesound=mine\\engine.wav\r\nhornsound=..\\sounds\\horn.wav\r\n");
+TEST_F(VehiclePackagerStory, SoundsOutsideTheVehiclesFolderAreNeitherPackedNorDeleted) {
+  const std::string horn = Game + "\\sounds\\horn.wav";
+  for (const char* value : {"..\\sounds\\horn.wav", "a\\..\\..\\sounds\\horn.wav"}) {
+    const std::string path = Vehicles + "\\" + value;
+    machine.files.Put(path, "a horn");
+    PutVehicle(std::string("hornsound=") + value + "\r\n");
+    PackageVehicle();
+    EXPECT_THAT(user.LastBox(),
+                Shows(Icon::Critical, HasSubstr("outside of its own folder"), "Error"))
+        << value;
+    EXPECT_EQ(machine.files.Text(path), "a horn");
+    EXPECT_TRUE(machine.files.Exists(Rocket + ".vhc"));
+    EXPECT_FALSE(machine.files.Exists(Rocket + ".zip"));
+  }
+}
+
+TEST_F(VehiclePackagerStory, SoundsInFoldersBelowArePackedUnderTheirPlainNames) {
+  PutVehicle("enginesound=mine\\engine.wav\r\nhornsound=my\\own\\horn.wav\r\n");
   machine.files.Put(Vehicles + "\\mine\\engine.wav", "an engine");
-  machine.files.Put(Game + "\\sounds\\horn.wav", "a horn");
+  machine.files.Put(Vehicles + "\\my\\own\\horn.wav", "a horn");
   PackageVehicle();
+  ExpectSuccess();
+  EXPECT_THAT(NamesInArchive(), ElementsAre("rocket.wav", "rocket.vhc", "engine.wav", "horn.wav"));
   EXPECT_THAT(user.Boxes(), SizeIs(1));
 }
 
