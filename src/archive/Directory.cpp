@@ -234,10 +234,10 @@ class Reading {
 
   // By what the systems that have links keep beside a file.
   static bool IsLink(int madeOn, uint32_t attributes) {
-    constexpr uint32_t Kind = 0170000;
-    constexpr uint32_t Folder = 0040000;
-    constexpr uint32_t File = 0100000;
-    constexpr uint32_t Link = 0120000;
+    constexpr uint32_t Kind = 0xF000;
+    constexpr uint32_t Folder = 0x4000;
+    constexpr uint32_t File = 0x8000;
+    constexpr uint32_t Link = 0xA000;
     constexpr uint32_t WindowsLink = 0x400;
     const uint32_t kind = attributes >> 16 & Kind;
     if (kind == Link) return true;

@@ -9,6 +9,9 @@ namespace RealMachine {
 
 // Handles all messages that wait, as the program does, until there are none.
 void Pump();
+// Brings the window that can be used back to the front if the program has no active window: what
+// another program does on the same screen, at whatever moment, is not what a test is about.
+void StayInFront();
 // Takes from the queue what a test left in it.
 void EmptyQueue();
 

@@ -43,7 +43,13 @@ void SetKeys(const Stroke& stroke, bool areDown) {
 }
 
 HWND KeyboardWindow() {
+  RealMachine::StayInFront();
   return GetFocus() ? GetFocus() : GetActiveWindow();
+}
+
+HWND WindowInUse() {
+  RealMachine::StayInFront();
+  return GetActiveWindow();
 }
 
 constexpr LPARAM WasDownBefore = 1 << 30;
@@ -87,7 +93,7 @@ void ClickAt(HWND window, POINT point, UINT downMessage) {
 }
 
 HWND ListInUse() {
-  return ChildOfClass(GetActiveWindow(), "ListBox");
+  return ChildOfClass(WindowInUse(), "ListBox");
 }
 
 HWND FindRow(const std::string& row, POINT& middle) {
@@ -134,20 +140,9 @@ Waiting& TheWaiting() {
   return waiting;
 }
 
-// A program that another one has sent to the background has no active window, and boxes that come
-// there wait in vain for keys: brings the one that can be used to the front.
-void ComeToFront() {
-  const auto bring = [](HWND window, LPARAM) -> BOOL {
-    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
-    SetForegroundWindow(window);
-    return FALSE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), bring, 0);
-}
-
 // A window that is new, in use, and keeps its owner from being used.
 HWND NewModalWindow() {
-  if (!GetActiveWindow()) ComeToFront();
+  RealMachine::StayInFront();
   std::erase_if(TheWaiting().seen, [](HWND window) { return !IsWindowVisible(window); });
   const HWND window = GetActiveWindow();
   if (!window || !IsWindowVisible(window) || TheWaiting().seen.contains(window)) return nullptr;
@@ -226,7 +221,7 @@ void Type(const std::string& text) {
 }
 
 void CloseWindow() {
-  PostMessageA(GetActiveWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  PostMessageA(WindowInUse(), WM_SYSCOMMAND, SC_CLOSE, 0);
   RealMachine::Pump();
 }
 
@@ -262,7 +257,7 @@ void RefuseRow(const std::string& row) {
 
 void ClickButton(const std::string& caption) {
   for (HWND button = nullptr;
-       (button = FindWindowExA(GetActiveWindow(), button, "Button", nullptr)) != nullptr;) {
+       (button = FindWindowExA(WindowInUse(), button, "Button", nullptr)) != nullptr;) {
     char text[256] = "";
     GetWindowTextA(button, text, sizeof text);
     if (Platform::WithoutAccessKey(text) != caption) continue;
@@ -275,7 +270,7 @@ void ClickButton(const std::string& caption) {
 }
 
 void ChooseMenu(const std::vector<std::string>& captions) {
-  const HWND window = GetActiveWindow();
+  const HWND window = WindowInUse();
   HMENU menu = GetMenu(window);
   for (size_t level = 0; level < captions.size(); ++level) {
     int item = 0;
@@ -347,6 +342,16 @@ void LeaveFileDialog() {
 
 }  // namespace TestMachine
 
+void RealMachine::StayInFront() {
+  if (GetActiveWindow()) return;
+  const auto bring = [](HWND window, LPARAM) -> BOOL {
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window) || IsIconic(window)) return TRUE;
+    SetForegroundWindow(window);
+    return FALSE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), bring, 0);
+}
+
 void RealMachine::Pump() {
   MSG message;
   while (PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
@@ -364,6 +369,7 @@ void RealMachine::Pump() {
     bool isHandled = false;
     Platform::HandleMessagesUntil([&] { return std::exchange(isHandled, true); });
   }
+  StayInFront();
 }
 
 void RealMachine::EmptyQueue() {

@@ -2,6 +2,8 @@
 // them, and that a window may go away in the middle of its own events.
 #include <gmock/gmock.h>
 
+#include <thread>
+
 #include "base/RuntimeError.h"
 #include "machine/win32/FormWindow.h"
 #include "tests/machine/RealMachine.h"
@@ -374,6 +376,22 @@ TEST_F(WindowTest, TheFocusIsWhereItWasWhenTheUserComesBack) {
   SetActiveWindow(WindowOf(tool));
   EXPECT_EQ(TestMachine::Hears(), "Cancel, button") << "but follows when it is used again";
   DestroyWindow(other);
+}
+
+// The screen is not the tests' alone, least of all where it has only just been brought up.
+TEST_F(WindowTest, KeysReachTheWindowEvenIfSomebodyElseHasComeToTheFront) {
+  tool.Show();
+  tool.Address.Focus();
+  TestMachine::Type("a");
+  std::thread somebodyElse([] {
+    SetForegroundWindow(CreateWindowExA(0, "STATIC", "Another program",
+                                        WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 100, nullptr,
+                                        nullptr, nullptr, nullptr));
+  });
+  somebodyElse.join();
+  TestMachine::Type("b");
+  EXPECT_EQ(tool.Address.text(), "ab");
+  EXPECT_EQ(TestMachine::Hears(), "Adresse oder Rechnername des Servers, edit, ab, Alt+A");
 }
 
 TEST_F(WindowTest, AWindowMayGoAwayInAnyOfItsEvents) {
