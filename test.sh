@@ -68,7 +68,7 @@ machine_suites() {
   gtest_share "the shipped program" "$1" "$machines" \
     wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack --versions=out/windows/versions \
     --demo=demo --pictures=out/e2e/pictures "--speakers=out/e2e/machine-$1/speakers.raw" \
-    "--web=out/e2e/machine-$1/web"
+    "--web=out/e2e/machine-$1/web" --archives=out/e2e/archives
   if [ "$1" = 1 ]; then
     check_suite bench-start wine out/windows/bench/start/bench-start.exe --brief \
       --pack=out/windows/pack --bare=out/windows/bench/start/barewindow.exe
@@ -79,8 +79,10 @@ machine_suites() {
 # On what the machines leave of the processors.
 in_background lint_suites
 if prepare_machines; then
-  rm -rf out/e2e/pictures
+  rm -rf out/e2e/pictures out/e2e/archives
   for number in $(seq "$machines"); do in_background machine_suites "$number"; done
+  wait_for_background
+  check_suite "what other programs unpack" scripts/check-archives.sh out/e2e/archives
 else
   count "the machine to run the program on" 0 1
 fi

@@ -66,7 +66,7 @@ std::string BytesOfHostFile(const std::string& path) {
 // What deflate itself takes for the bytes: nothing is kept.
 void DeflateAtBest(const std::string& bytes) {
   z_stream stream{};
-  Require(deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, -MAX_WBITS, 8,
+  Require(deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, -MAX_WBITS, 9,
                        Z_DEFAULT_STRATEGY) == Z_OK,
           "deflate does not begin");
   std::string packed(deflateBound(&stream, static_cast<uLong>(bytes.size())), '\0');

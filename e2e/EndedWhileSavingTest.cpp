@@ -2,6 +2,7 @@
 // new one, whole, and after the next save nothing of the pack's is left beside it.
 #include "e2e/driver/FileCallTrap.h"
 #include "e2e/driver/PackTest.h"
+#include "e2e/driver/PlainArchive.h"
 
 namespace E2e {
 namespace {
@@ -12,29 +13,30 @@ class EndedWhileSaving : public PackTest {
  protected:
   // Ends the pack at one call after the other, until a save has no more.
   //   saveWell  makes a save that goes well, and looks at it.
-  //   begin     begins another one, as far as to the box whose answer makes it.
-  //   answer    what that is answered.
+  //   begin     begins another one, as far as to the last thing that the user does for it.
+  //   finish    does that.
   //   isDone    whether that save is over, in a pack that was not ended.
-  //   look      looks at the file.
+  //   look      looks at the files.
+  //   stride    from one call at which the pack is ended to the next.
   struct Saves {
     std::function<void(Pack&)> saveWell;
     std::function<void(Pack&)> begin;
-    std::string answer;
+    std::function<void(Pack&)> finish;
     std::function<bool(Pack&)> isDone;
     std::function<void()> look;
+    int stride = 1;
   };
   void EndAtEachCall(const Saves& saves) {
     bool isEnded = true;
     int calls = 0;
-    for (; isEnded && !HasFailure(); ++calls) {
+    for (; isEnded && !HasFailure(); calls += saves.stride) {
       SCOPED_TRACE(calls);
       Pack& pack = StartPack();
       FileCallTrap trap(pack.program());
       saves.saveWell(pack);
       saves.begin(pack);
-      pack.WaitForBox();
       trap.EndAfter(calls);
-      pack.AnswerBox(saves.answer);
+      saves.finish(pack);
       WaitUntil("the end of the save",
                 [&] { return !pack.program().IsRunning() || saves.isDone(pack); });
       isEnded = !pack.program().IsRunning();
@@ -73,8 +75,12 @@ TEST_F(EndedWhileSaving, ARecordIsDeletedOrNot) {
              EXPECT_EQ(ReadFile(file), expected(deleted));
              EXPECT_EQ(NamesIn(gameFolder()), names);
            },
-       .begin = [](Pack& pack) { pack.Press("Alt+D"); },
-       .answer = "Y",
+       .begin =
+           [](Pack& pack) {
+             pack.Press("Alt+D");
+             pack.WaitForBox();
+           },
+       .finish = [](Pack& pack) { pack.AnswerBox("Y"); },
        .isDone = [&](Pack&) { return list.rows().size() == records.size() - deleted - 1; },
        .look =
            [&] {
@@ -97,6 +103,7 @@ TEST_F(EndedWhileSaving, ATrackIsTheOldOneOrTheNewOne) {
     pack.AnswerBox("Y");
     pack.WaitForWindow("SK2 Trackmaker by Orvane Interactive");
     pack.Press("Alt+S");
+    pack.WaitForBox();
   };
   const auto isSaved = [](Pack&) {
     const Window front(GetForegroundWindow());
@@ -111,9 +118,58 @@ TEST_F(EndedWhileSaving, ATrackIsTheOldOneOrTheNewOne) {
                        EXPECT_EQ(NamesIn(folder), names);
                      },
                  .begin = begin,
-                 .answer = "N",
+                 .finish = [](Pack& pack) { pack.AnswerBox("N"); },
                  .isDone = isSaved,
                  .look = [&] { EXPECT_THAT(ReadFile(file), AnyOf(sunny, rainy)); }});
+}
+
+// The track and its description are both there as they were, or the archive is there, whole.
+TEST_F(EndedWhileSaving, APackagedTrackIsThereOrItsArchiveIs) {
+  const std::string folder = gameFolder() + "\\tracks";
+  const std::string archive = folder + "\\Race.zip";
+  // In the order in which they are packed, in the small letters that packaging gives them.
+  const std::vector<Packed> sources = {{"race.wav", std::string(3000, 'w')},
+                                       {"race.trk", "-1\r\n0\r\n"}};
+  const auto putSources = [&] {
+    for (const auto& [name, bytes] : sources) WriteFile(folder + "\\" + name, bytes);
+    DeleteFileA(archive.c_str());
+  };
+  putSources();
+  const auto names = NamesIn(folder);
+  const auto begin = [](Pack& pack) {
+    pack.ChooseMenu({"Track", "Package"});
+    pack.WaitForFileDialog();
+  };
+  const auto finish = [](Pack& pack) { pack.ChooseFile("Race.trk"); };
+  EndAtEachCall({.saveWell =
+                     [&](Pack& pack) {
+                       putSources();
+                       begin(pack);
+                       finish(pack);
+                       EXPECT_EQ(pack.AnswerBox().title, "Congratulations!");
+                       EXPECT_EQ(Unpacked(archive), sources);
+                       EXPECT_FALSE(Exists(folder + "\\Race.wav"));
+                       putSources();
+                       EXPECT_EQ(NamesIn(folder), names) << "no side file stays";
+                     },
+                 .begin = begin,
+                 .finish = finish,
+                 .isDone =
+                     [](Pack&) {
+                       const Window front(GetForegroundWindow());
+                       return front.Exists() && front.text() == "Congratulations!";
+                     },
+                 .look =
+                     [&] {
+                       if (Exists(archive)) {
+                         EXPECT_EQ(Unpacked(archive), sources);
+                         return;
+                       }
+                       for (const auto& [name, bytes] : sources) {
+                         EXPECT_EQ(ReadFile(folder + "\\" + name), bytes);
+                       }
+                     },
+                 .stride = 4});
 }
 
 }  // namespace

@@ -35,7 +35,8 @@ int main(int count, char** arguments) {
                          TakeOption(argument, "demo", given.demo) ||
                          TakeOption(argument, "pictures", given.pictures) ||
                          TakeOption(argument, "speakers", given.speakers) ||
-                         TakeOption(argument, "web", given.web);
+                         TakeOption(argument, "web", given.web) ||
+                         TakeOption(argument, "archives", given.archives);
     if (!isKnown) {
       std::fprintf(stderr, "unknown option %s\n", arguments[i]);
       return 2;
@@ -45,7 +46,7 @@ int main(int count, char** arguments) {
       given.pictures.empty()) {
     std::fprintf(stderr,
                  "usage: e2e-tests --pack=FOLDER --versions=FOLDER --demo=FOLDER "
-                 "--pictures=FOLDER [--speakers=FILE] [--web=FOLDER]\n");
+                 "--pictures=FOLDER [--speakers=FILE] [--web=FOLDER] [--archives=FOLDER]\n");
     return 2;
   }
   std::filesystem::create_directories(given.pictures);

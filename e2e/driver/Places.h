@@ -14,6 +14,7 @@ struct Places {
   std::string pictures;  // where the pictures of the windows go
   std::string speakers;  // the file of Recording; empty if nobody records them
   std::string web;       // the folder of ServedFile
+  std::string archives;  // what LeaveForOtherPrograms leaves; empty if nobody looks
 };
 Places& Given();
 

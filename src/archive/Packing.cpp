@@ -86,9 +86,9 @@ struct OldArchive {
 class Deflater {
  public:
   explicit Deflater(const std::string& path) {
-    constexpr int UsualMemory = 8;
+    constexpr int MostMemory = 9;
     // A negative number of bits: there is nothing around the deflated data.
-    if (deflateInit2(&stream_, Z_BEST_COMPRESSION, Z_DEFLATED, -MAX_WBITS, UsualMemory,
+    if (deflateInit2(&stream_, Z_BEST_COMPRESSION, Z_DEFLATED, -MAX_WBITS, MostMemory,
                      Z_DEFAULT_STRATEGY) != Z_OK) {
       throw RuntimeError(RuntimeError::OutOfMemory, path);
     }

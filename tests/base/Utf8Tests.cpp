@@ -15,7 +15,7 @@ TEST(Utf8, ACharacterHasUpToFourBytes) {
 }
 
 TEST(Utf8, PiecesAndWrongFormsAreNoCharacters) {
-  for (const char* text : {"", "\x80", "\xBF", "\xC3", "\xC3z", "\xE5\xB1", "\xE5\xB1z",
+  for (const char* text : {"", "\x80", "\xBF", "\xBF\x80", "\xC3", "\xC3z", "\xE5\xB1", "\xE5\xB1z",
                            "\xF0\x9F\x98", "\xF8\x88\x80\x80\x80", "\xFF"}) {
     EXPECT_EQ(Utf8::CharacterLength(text), 0u) << text;
   }

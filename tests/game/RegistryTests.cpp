@@ -130,6 +130,11 @@ TEST_F(RegistryStory, ALocationWithoutABackslashLosesItsLastCharacter) {
   EXPECT_EQ(Application::GameFolder(), "C:\\Games\\Skidrun");
 }
 
+TEST_F(RegistryStory, TheShortestLocationLeavesOneCharacter) {
+  PutLocation("G\\");
+  EXPECT_EQ(Application::GameFolder(), "G");
+}
+
 TEST_F(RegistryStory, TheGameFolderIsReadAtEveryUse) {
   PutLocation("C:\\One\\");
   EXPECT_EQ(Application::GameFolder(), "C:\\One");
