@@ -12,12 +12,23 @@
 namespace Archive {
 
 namespace {
-constexpr size_t BlockSize = size_t{1} << 17;
+
+constexpr size_t LargestBlock = size_t{1} << 17;
+
+// A block for so many bytes, and no larger than they need: an archive may hold very many small
+// entries. One byte more than is declared, so that an entry that holds more is found out.
+std::vector<char> BlockFor(uint64_t size) {
+  return std::vector<char>(static_cast<size_t>(std::min<uint64_t>(size, LargestBlock - 1)) + 1);
 }
+
+}  // namespace
 
 struct EntryReader::State {
   State(ByteSource& from, const Entry& which)
-      : source(from), entry(which), packed(BlockSize), unpacked(BlockSize) {
+      : source(from),
+        entry(which),
+        packed(BlockFor(which.packedSize)),
+        unpacked(BlockFor(which.size)) {
     if (entry.method != Zip::Deflated) return;
     // A negative number of bits: there is nothing around the deflated data.
     if (inflateInit2(&stream, -MAX_WBITS) != Z_OK) {

@@ -183,12 +183,11 @@ class ArchiveWriter {
   }
 
   void Copy(ByteSource& source, uint64_t from, uint64_t to) {
-    std::vector<char> block(BlockSize);
     while (from < to) {
-      const auto most = static_cast<size_t>(std::min<uint64_t>(to - from, block.size()));
-      const size_t count = source.Read(from, block.data(), most);
+      const auto most = static_cast<size_t>(std::min<uint64_t>(to - from, block_.size()));
+      const size_t count = source.Read(from, block_.data(), most);
       if (count == 0) Refuse(ArchiveTexts.ArchiveDamaged, path_);
-      Write({block.data(), count});
+      Write({block_.data(), count});
       from += count;
       step_.AnswerOthers();
     }
@@ -196,14 +195,13 @@ class ArchiveWriter {
 
   void WriteDeflated(FileSource& file, Written& entry) {
     Deflater deflater(path_);
-    std::vector<char> block(BlockSize);
     uLong sum = 0;
     for (bool isLast = false; !isLast;) {
-      const size_t count = file.Read(entry.size, block.data(), block.size());
+      const size_t count = file.Read(entry.size, block_.data(), block_.size());
       isLast = count == 0;
-      sum = crc32(sum, reinterpret_cast<const Bytef*>(block.data()), static_cast<uInt>(count));
+      sum = crc32(sum, reinterpret_cast<const Bytef*>(block_.data()), static_cast<uInt>(count));
       entry.size += count;
-      deflater.Deflate({block.data(), count}, isLast, [&](std::string_view packed) {
+      deflater.Deflate({block_.data(), count}, isLast, [&](std::string_view packed) {
         if (packed.empty()) return;
         Write(packed);
         entry.packedSize += packed.size();
@@ -364,11 +362,9 @@ class ArchiveWriter {
   }
 
   void RequireSame(ByteSource& source, uint64_t place, std::string_view block) {
-    compared_.resize(BlockSize);
     while (!block.empty()) {
-      const size_t count =
-          source.Read(place, compared_.data(), std::min(block.size(), compared_.size()));
-      if (count == 0 || block.substr(0, count) != std::string_view(compared_.data(), count)) {
+      const size_t count = source.Read(place, block_.data(), std::min(block.size(), block_.size()));
+      if (count == 0 || block.substr(0, count) != std::string_view(block_.data(), count)) {
         Refuse(ArchiveTexts.ArchiveSourceChanged, source.path());
       }
       place += count;
@@ -381,7 +377,8 @@ class ArchiveWriter {
   Platform::FileWriter writer_;
   uint64_t length_ = 0;
   std::vector<Written> entries_;
-  std::vector<char> compared_;
+  // For whatever is read: one for all entries, of which there may be very many.
+  std::vector<char> block_ = std::vector<char>(BlockSize);
 };
 
 }  // namespace

@@ -27,9 +27,7 @@ bool LineReader::NextPiece(std::string_view& piece) {
 bool LineReader::Skip() {
   PassRest();
   std::string_view piece;
-  if (!PassLf() || !Take(piece)) return false;
-  PassRest();
-  return true;
+  return PassLf() && Take(piece);
 }
 
 // Takes the unread bytes up to the end of the line, or as many as fit the buffer. Returns false if

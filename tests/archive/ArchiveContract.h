@@ -8,6 +8,7 @@
 
 #include "archive/Extraction.h"
 #include "archive/Packing.h"
+#include "archive/Times.h"
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
 #include "tests/archive/ArchiveCorpus.h"
@@ -93,6 +94,7 @@ TEST_F(ArchiveContract, RestoresTheTimesOfFiles) {
   TestMachine::PutFile(archive, Bytes({.members = {exact, {.name = "noon.trk"}}}));
   Archive::Extract(archive, target, "");
   EXPECT_EQ(Platform::StampOf(target + "\\exact.trk")->lastWrite, 134'244'736'010'000'000u);
+  EXPECT_EQ(Platform::StampOf(target + "\\noon.trk")->lastWrite, Archive::FromDosTime(Noon));
 
   // Packed again, they have the same times, to the second.
   Archive::Pack(In("again.zip"), {target + "\\exact.trk", target + "\\noon.trk"});

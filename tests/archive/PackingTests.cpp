@@ -160,6 +160,46 @@ TEST_F(PackingStory, CommentsFieldsAndProgramsOfOthersStay) {
   EXPECT_EQ(CauseKeyOf([&] { Contents(); }), "ArchiveNameNotInLanguage");
 }
 
+// As many as the old fields cannot count.
+TEST_F(PackingStory, AnArchiveMayHoldAnyNumberOfEntries) {
+  constexpr uint64_t Count = 0xFFFF;
+  ZipBytes::Archive archive;
+  for (uint64_t i = 1; i < Count; ++i) {
+    archive.members.push_back({.name = std::to_string(i), .method = ZipBytes::Stored});
+  }
+  machine.files.Put(packed, ZipBytes::Bytes(archive));
+  Archive::Pack(packed, {spoken});
+  const std::string bytes = machine.files.Text(packed);
+  constexpr size_t OldEndSize = 22;
+  constexpr size_t WideEndsSize = 56 + 20;
+  const uint64_t place = bytes.size() - OldEndSize - WideEndsSize;
+  const std::string ends = bytes.substr(place);
+  const auto numberAt = [&ends](size_t at) {
+    uint64_t number = 0;
+    for (size_t i = 8; i-- > 0;) number = number << 8 | static_cast<unsigned char>(ends[at + i]);
+    return number;
+  };
+  const uint64_t size = numberAt(40);
+  const uint64_t start = numberAt(48);
+  EXPECT_EQ(start + size, place);
+  EXPECT_EQ(bytes.substr(start, 4), "PK\1\2");
+  std::string wanted;
+  ZipBytes::Put(uint32_t{0x06064B50}, wanted);
+  ZipBytes::Put(uint64_t{44}, wanted);
+  for (int i = 0; i < 2; ++i) ZipBytes::Put(uint16_t{45}, wanted);
+  for (const uint64_t number : {uint64_t{0}, Count, Count, size, start}) {
+    ZipBytes::Put(number, wanted);
+  }
+  ZipBytes::Put(uint32_t{0x07064B50}, wanted);
+  ZipBytes::Put(uint32_t{0}, wanted);
+  ZipBytes::Put(place, wanted);
+  ZipBytes::Put(uint32_t{1}, wanted);
+  EXPECT_EQ(ends.substr(0, WideEndsSize), wanted);
+  EXPECT_EQ(ends.substr(WideEndsSize, 12), std::string("PK\5\6\0\0\0\0\xFF\xFF\xFF\xFF", 12));
+  Archive::Pack(packed, {spoken});
+  EXPECT_EQ(machine.files.Text(packed), bytes);
+}
+
 TEST_F(PackingStory, AnArchiveThatIsDamagedStaysAsItIs) {
   for (const auto& hostile : ArchiveCorpus::HostileArchives()) {
     machine.files.Put(packed, hostile.bytes);

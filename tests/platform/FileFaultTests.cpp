@@ -9,6 +9,7 @@
 
 #include "base/RuntimeError.h"
 #include "machine/simulated/Machine.h"
+#include "platform/FileFailure.h"
 #include "platform/Files.h"
 #include "tests/ProjectFile.h"
 
@@ -152,6 +153,23 @@ TEST(FileFaults, EveryServiceCanBeToldToFailAndKeepsItsCause) {
       failures += isRefused ? 1 : 0;
     }
     EXPECT_GT(failures, 0) << name << " cannot be told to fail";
+  }
+}
+
+// What stands there is the cause only of what cannot be done with its kind.
+TEST(FileFailure, AFolderIsInTheWayOfFilesAndOfNothingElse) {
+  Simulated::Machine machine;
+  machine.files.Put("C:\\tracks\\hill.trk", "");
+  const auto numberOf = [](FileStep step) {
+    return FailureOf(SystemError::AccessDenied, "C:\\tracks", step).number();
+  };
+  for (const FileStep step : {FileStep::Opening, FileStep::Reading, FileStep::Writing,
+                              FileStep::Replacing, FileStep::Rewriting, FileStep::Deleting}) {
+    EXPECT_EQ(numberOf(step), RuntimeError::PathFileAccess);
+  }
+  for (const FileStep step : {FileStep::SettingAttributes, FileStep::Listing,
+                              FileStep::MakingFolder, FileStep::DeletingFolder}) {
+    EXPECT_EQ(numberOf(step), RuntimeError::PermissionDenied);
   }
 }
 
