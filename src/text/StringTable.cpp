@@ -26,8 +26,17 @@ class LanguageFile {
   // Fails as Platform::AppendToFile does.
   void Append(const std::string& entry);
 
+  // See SpeakOnlyFrom.
+  void ReadOnlyFrom(const std::string& path) {
+    path_ = path;
+    isKnown_ = false;
+    isOnlyRead_ = true;
+  }
+  bool isOnlyRead() const { return isOnlyRead_; }
+
  private:
   std::string path_ = Platform::PathBesideProgram(".lng");
+  bool isOnlyRead_ = false;
   bool isKnown_ = false;                      // the rest is what the file holds
   std::optional<Platform::FileStamp> stamp_;  // nothing while there is no file
   std::vector<std::string> lines_;
@@ -105,7 +114,7 @@ std::string GetLangString(const std::string& key, const std::string& english, in
     // appending the default would replace the translation, since the last line of a key counts.
     if (!file.Refresh()) return english;
     if (const auto text = file.Find(key, flag)) return WithSemicolons(*text);
-    file.Append(KeyValue::Line(key, english));
+    if (!file.isOnlyRead()) file.Append(KeyValue::Line(key, english));
   } catch (const std::exception&) {
     // A file that cannot be read or written, or too little memory for it, is no reason to stop.
   }
@@ -115,4 +124,8 @@ std::string GetLangString(const std::string& key, const std::string& english, in
 std::string GetLangString(const LangText& text) {
   if (!text.key) return text.english;
   return GetLangString(text.key, text.english, WithComments);
+}
+
+void SpeakOnlyFrom(const std::string& path) {
+  PerRun<LanguageFile>().ReadOnlyFrom(path);
 }

@@ -1,5 +1,5 @@
 // The lookup behind every text that the user sees. Translations stand in the language file: the
-// program folder, the executable's name, ".lng".
+// program folder, the executable's name, ".lng"; a console program says itself which one it reads.
 #pragma once
 
 #include <string>
@@ -26,3 +26,7 @@ std::string GetLangString(const std::string& key, const std::string& english, in
 // The text of a table, as all callers look it up. A text without a key is the same in every
 // language and is given as it stands.
 std::string GetLangString(const LangText& text);
+
+// From now on, in this run, texts come from that language file, or with an empty path are the
+// English defaults. Nothing is ever appended.
+void SpeakOnlyFrom(const std::string& path);
