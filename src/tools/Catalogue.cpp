@@ -273,6 +273,9 @@ class Reader {
         Refuse(path, "Windows cannot have a file of this name.");
       } else if (!IsFirstOfItsName(path, names)) {
         continue;
+      } else if (entry.isFolder && entry.isLink) {
+        // It may lead round in a circle.
+        Refuse(path, "This is a link to a folder, which is not followed.");
       } else if (entry.isFolder) {
         ReadPages(path);
       } else {

@@ -42,7 +42,8 @@ void JudgeDisplayNames(const Catalogue::Contents& contents, Catalogue::Faults& f
       }
       const auto earlier = earlierKinds.find(name);
       if (earlier == earlierKinds.end()) continue;
-      faults.push_back({addOn.archive.path, "The display name " + Quoted(name) + " is also that of " +
+      faults.push_back({addOn.archive.path, "The display name " + Quoted(name) +
+                                                " is also that of " +
                                                 Quoted(earlier->second->archive.path) + "."});
     }
     for (const AddOn& addOn : addOns) earlierKinds.emplace(addOn.displayName, &addOn);
@@ -55,14 +56,13 @@ void JudgeVersions(const Catalogue::Contents& contents, std::string_view publish
     faults.push_back({Catalogue::VersionsFile, reason});
   };
   for (const Versions::Record& record : contents.versions) {
-    const std::string before =
-        Versions::VersionIn(published, record.product, Versions::Separator);
+    const std::string before = Versions::VersionIn(published, record.product, Versions::Separator);
     const auto version = Versions::Published(before);
     if (!version) continue;  // there is none yet
     const Versions::Comparison comparison = Versions::Compare(record.version, *version);
     if (comparison == Versions::Older) {
-      refuse("The version " + record.version + " of " + Quoted(record.product) +
-             " is lower than " + before + ", which is published.");
+      refuse("The version " + record.version + " of " + Quoted(record.product) + " is lower than " +
+             before + ", which is published.");
     }
     const bool hasInstaller =
         std::ranges::any_of(contents.software, [](const Catalogue::File& file) {

@@ -39,7 +39,8 @@ void Make(const std::string& folder) {
 void Remove(const std::string& folder) {
   for (const Platform::FolderEntry& entry : Platform::ListFolder(folder)) {
     const std::string path = folder + "\\" + entry.name;
-    if (entry.isFolder) {
+    // Never what a link leads to.
+    if (entry.isFolder && !entry.isLink) {
       Remove(path);
     } else {
       Platform::RemoveFile(path);

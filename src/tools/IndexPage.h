@@ -1,6 +1,6 @@
 // The web page that tells people what a site offers: every archive and program with its size and
-// checksum. Plain HTML, without pictures, colours or scripts: headings to jump to, lists, tables with
-// captions and headings, and links that say where they lead.
+// checksum. Plain HTML, without pictures, colours or scripts: headings to jump to, lists, tables
+// with captions and headings, and links that say where they lead.
 #pragma once
 
 #include <string>

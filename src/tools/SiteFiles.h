@@ -30,7 +30,6 @@ std::string ListOf(const std::vector<Catalogue::AddOn>& addOns);
 // of it all, programs, and the maker's own pages. A page that would take the place of another file
 // is left out and added to the faults.
 //   folder  that of the contents.
-Files Of(const std::string& folder, const Catalogue::Contents& contents,
-         Catalogue::Faults& faults);
+Files Of(const std::string& folder, const Catalogue::Contents& contents, Catalogue::Faults& faults);
 
 }  // namespace SiteFiles

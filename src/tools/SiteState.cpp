@@ -58,7 +58,11 @@ void Serve(const std::string& site, const SiteFiles::Files& files) {
     Write(target, file);
   }
   Platform::ServeNextFolder(site);
-  CleanUp(site);
+  try {
+    CleanUp(site);
+  } catch (const RuntimeError&) {
+    // It is published, and that is what is told. The next run removes what is left.
+  }
 }
 
 }  // namespace SiteState
