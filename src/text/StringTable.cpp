@@ -13,9 +13,6 @@
 
 namespace {
 
-// Hundreds of times the size of any translation.
-constexpr uint64_t LargestFile = 8 << 20;
-
 // The lines of the language file as they were at the last look.
 class LanguageFile {
  public:
@@ -43,14 +40,6 @@ class LanguageFile {
   bool endsInOpenLine_ = false;  // the last line lacks its line end
 };
 
-// What counts of a line where ";" starts a comment. Lines without one stay as they are, blanks
-// included.
-std::string_view WithoutComment(std::string_view line) {
-  const size_t comment = line.find(';');
-  if (comment == std::string_view::npos) return line;
-  return Text::Trim(line.substr(0, comment));
-}
-
 // One spelling after the other, over the whole text. Any further ones stay as they are.
 std::string WithSemicolons(std::string text) {
   for (const char* escape : {"{sc}", "{Sc}", "{sC}", "{SC}"}) {
@@ -67,7 +56,7 @@ bool LanguageFile::Refresh() {
   isKnown_ = false;
   lines_.clear();
   endsInOpenLine_ = false;
-  if (stamp && stamp->size > LargestFile) return false;
+  if (stamp && stamp->size > LargestLanguageFile) return false;
   const std::optional<std::string> bytes = Platform::ReadWholeFile(path_);
   if (bytes && !bytes->empty()) {
     // Translators' editors end lines in CR LF, CR or LF; the empty lines that this makes of CR LF
@@ -92,7 +81,7 @@ bool LanguageFile::Refresh() {
 std::optional<std::string> LanguageFile::Find(const std::string& key, int flag) const {
   std::optional<std::string> found;
   for (const std::string& whole : lines_) {
-    const std::string_view line = flag == WithComments ? WithoutComment(whole) : whole;
+    const std::string_view line = flag == WithComments ? LineWithoutComment(whole) : whole;
     // No end at the first one that is found: translators add lines at the end, and the last counts.
     if (KeyValue::HasKey(line, key)) found = KeyValue::Split(line)->value;
   }
@@ -106,6 +95,12 @@ void LanguageFile::Append(const std::string& entry) {
 }
 
 }  // namespace
+
+std::string_view LineWithoutComment(std::string_view line) {
+  const size_t comment = line.find(';');
+  if (comment == std::string_view::npos) return line;
+  return Text::Trim(line.substr(0, comment));
+}
 
 std::string GetLangString(const std::string& key, const std::string& english, int flag) {
   try {

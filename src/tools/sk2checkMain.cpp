@@ -2,18 +2,9 @@
 #include <iostream>
 
 #include "platform/Console.h"
-#include "text/StringTable.h"
-#include "tracks/TrackChecker.h"
+#include "tools/CheckRun.h"
 
 int main(int count, char** arguments) {
-  SpeakOnlyFrom("");
-  int status = 0;
-  for (const std::string& path : Platform::StartConsole(count, arguments)) {
-    int32_t code = 0;
-    std::string message;
-    const int32_t line = CheckTrackFile(path, code, message);
-    std::cout << line << " " << message << "\n";
-    if (code) status = 1;
-  }
-  return status;
+  return Tools::RunCheck(Platform::StartConsole(count, arguments), std::cout, std::cerr,
+                         SK2_VERSION);
 }
