@@ -20,8 +20,9 @@ std::string ServedText(const std::string& site, const std::string& path);
 void CleanUp(const std::string& site);
 
 // Makes the files beside what is served and then serves them in its place. After a failure what was
-// served is served still; what was served before may stay beside it until the next run. Fails as Platform::FileWriter and ServeNextFolder do; with RuntimeError
-// InvalidCall if a file is not what it was when it was judged.
+// served is served still; what was served before may stay beside it until the next run. Fails as
+// Platform::FileWriter and ServeNextFolder do; with RuntimeError InvalidCall if a file is not what
+// it was when it was judged.
 void Serve(const std::string& site, const SiteFiles::Files& files);
 
 }  // namespace SiteState
