@@ -74,7 +74,7 @@ struct Told {
   std::string out;
   std::string errors;
 };
-inline Told Run(const std::vector<std::string>& arguments) {
+inline Told PublishWith(const std::vector<std::string>& arguments) {
   SpeakOnlyFrom("");
   std::ostringstream out;
   std::ostringstream errors;
@@ -82,7 +82,7 @@ inline Told Run(const std::vector<std::string>& arguments) {
   return {status, out.str(), errors.str()};
 }
 inline Told Publish() {
-  return Run({Folder, Site});
+  return PublishWith({Folder, Site});
 }
 
 }  // namespace Published

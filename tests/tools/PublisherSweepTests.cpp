@@ -55,9 +55,9 @@ TEST_F(PublishingSweep, ChangesAreSeen) {
 }
 
 TEST_F(PublishingSweep, WhateverFailsOneOfTheTwoStatesIsServed) {
-  const auto calls = ForEachCallThatFails([&](Machine& machine, After calls) {
+  const auto calls = ForEachCallThatFails([&](Machine& machine, After callsBefore) {
     PublishAndChange(machine);
-    machine.FailAnyCall(calls);
+    machine.FailAnyCall(callsBefore);
     const Told told = Publish();
     if (!machine.FailureHappened()) machine.faults = {};
     EXPECT_THAT(told.status, AnyOf(PublishCommand::Done, PublishCommand::Failed));
