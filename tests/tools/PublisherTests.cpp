@@ -450,6 +450,19 @@ TEST_F(Publishing, AFileThatCannotBeReadIsAFailure) {
   machine.files.Release(Folder + "\\cars\\coach.zip");
 }
 
+TEST_F(Publishing, WaitsForNoOtherRunAndDisturbsNone) {
+  PublishFirst();
+  Put("cars\\new.zip", Car("new"));
+  machine.files.Put(Site + "\\lock.sk2", "");
+  machine.files.Hold(Site + "\\lock.sk2");
+  const auto before = Tree(machine, Site);
+  EXPECT_EQ(Publish().status, PublishCommand::Failed);
+  EXPECT_EQ(Tree(machine, Site), before);
+  machine.files.Release(Site + "\\lock.sk2");
+  PublishFirst();
+  EXPECT_THAT(machine.files.Names(Site), ElementsAre("current"));
+}
+
 TEST_F(Publishing, AFullDiskIsAFailure) {
   PublishFirst();
   const auto before = Served(machine);
