@@ -48,7 +48,7 @@ TEST_F(CheckReportStory, NothingThatAFileHoldsSpeaksToTheTerminal) {
   hostile += '\0';
   hostile += "\x90\x9D\x81 \x80\xFF";
   EXPECT_EQ(Printed(Format::Plain, track, "", {1, 1, hostile}),
-            "tracks/hill.trk:1: a?[2J?::error::???? \xE2\x82\xAC\xC3\xBF\n");
+            "tracks/hill.trk:1: a?[2J?::error::????? \xE2\x82\xAC\xC3\xBF\n");
   // Nor does it end the line of an annotation.
   EXPECT_EQ(Printed(Format::GitHub, track, "", {1, 1, "a\r\n::error::b\n\x1B"}),
             "::error file=tracks/hill.trk,line=1::a ::error::b??\n");
