@@ -19,7 +19,6 @@ begin_suites
 build_suite host sk2tests posix-contracts check-corpus
 build_suite tools
 build_suite windows
-build_suite tools
 build_suite fuzz
 build_suite bench
 in_background fuzz_suites out/fuzz/fuzz
