@@ -4,7 +4,7 @@ file(GLOB_RECURSE format_sources CONFIGURE_DEPENDS
   src/base/*.cpp src/platform/*.cpp src/archive/*.cpp src/text/*.cpp src/tools/*.cpp)
 list(FILTER format_sources EXCLUDE REGEX "Main\\.cpp$")
 foreach(source
-    app/LanguageTemplate internet/ComponentRecords records/RecordChecker tracks/TrackChecker
+    app/LanguageTemplate internet/ComponentPlaces internet/ComponentRecords records/RecordChecker tracks/TrackChecker
     update/Versions vehicles/VehicleChecker)
   list(APPEND format_sources ${CMAKE_SOURCE_DIR}/src/${source}.cpp)
 endforeach()
@@ -33,5 +33,6 @@ if(NOT WIN32)
   target_link_libraries(portable PUBLIC ZLIB::ZLIB)
   if(SK2_TOOLS)
     sk2_tool(sk2check posix portable)
+    sk2_tool(sk2publish posix portable)
   endif()
 endif()

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""Makes the web site that nginx.conf.in serves: what stands in site, and the archives of the add-ons.
+"""Makes what the demo's maker offers, as a folder to be published: what stands in offer, and the
+archives of the add-ons.
 
-    make-site.py FOLDER [INSTALLER]
+    make-offer.py FOLDER [INSTALLER]
 
-FOLDER     where the site is made. FOLDER/site is what is served; FOLDER/addons holds the add-ons as
-           they come out of their archives. Both are made anew, byte for byte the same each time.
+FOLDER     where it is made. FOLDER/offer is the folder to be published; FOLDER/addons holds the
+           add-ons as they come out of their archives. Both are made anew, byte for byte the same
+           each time.
 INSTALLER  the program that is offered as the pack's next release. Without it there is none.
 """
 import pathlib
@@ -44,17 +46,16 @@ def pack(folder, archive):
 
 
 def main(target, installer=None):
-    site, addons = pathlib.Path(target, "site"), pathlib.Path(target, "addons")
-    for folder, source in ((site, HERE / "site"), (addons, HERE / "addons")):
+    offer, addons = pathlib.Path(target, "offer"), pathlib.Path(target, "addons")
+    for folder, source in ((offer, HERE / "offer"), (addons, HERE / "addons")):
         shutil.rmtree(folder, ignore_errors=True)
         shutil.copytree(source, folder)
     for name, samples in SOUNDS.items():
         write(addons / name, samples)
     for addon in sorted(addons.glob("*/*")):
-        kind = addon.parent.name
-        pack(addon, site / "orvane/games/sk2" / kind / (addon.name + ".zip"))
+        pack(addon, offer / addon.parent.name / (addon.name + ".zip"))
     if installer:
-        shutil.copyfile(installer, site / "orvane/software/sk2up.exe")
+        shutil.copyfile(installer, offer / "software/sk2up.exe")
 
 
 if len(sys.argv) not in (2, 3):
