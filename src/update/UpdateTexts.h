@@ -34,6 +34,13 @@ struct UpdateTextTable {
   LangText ErrorUpdatingText1{"ErrorUpdatingText1", "There was an error updating"};
   LangText ErrorUpdatingText2{"ErrorUpdatingText2",
                               "The specified file does not exist on the internet."};
+  LangText UpdateSignatureMissing{
+      "UpdateSignatureMissing",
+      "Its signature could not be fetched, so it was not started. Please try again later."};
+  LangText UpdateSignatureWrong{
+      "UpdateSignatureWrong",
+      "Its signature is not right, so it was not started: the file was damaged or replaced on its "
+      "way, or is just being changed on the server. Please try again later."};
   LangText ErrorUpdatingTitle{"ErrorUpdatingTitle", "Error"};
   LangText AutoUpdate{"AutoUpdate", "Automatic update checks are now turned"};
   LangText On{"On", "on"};

@@ -1,0 +1,12 @@
+#include "platform/FileGuard.h"
+
+#include "platform/FileFailure.h"
+
+namespace Platform {
+
+FileGuard::FileGuard(const std::string& path) {
+  CheckName(path);
+  Require(file_.Open(path, OpenFile::How::ToGuard), path, FileStep::Opening);
+}
+
+}  // namespace Platform
