@@ -1,6 +1,7 @@
 #include "platform/FileGuard.h"
 
 #include "platform/FileFailure.h"
+#include "platform/Paths.h"
 
 namespace Platform {
 

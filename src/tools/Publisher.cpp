@@ -32,7 +32,8 @@ void JudgeArchives(const std::string& folder, const Catalogue::Contents& content
 
 }  // namespace
 
-Report Publish(const std::string& folder, const std::string& site) {
+Report Publish(const std::string& folder, const std::string& site,
+               const InstallerSigning::Keys& keys) {
   if (IsIn(folder, site) || IsIn(site, folder)) {
     throw RuntimeError(RuntimeError::InvalidCall, OneInTheOther, site);
   }
@@ -46,7 +47,8 @@ Report Publish(const std::string& folder, const std::string& site) {
       report.contents, SiteState::ServedText(site, SiteFiles::PathOf(Versions::RecordsPath)),
       report.faults);
   JudgeArchives(folder, report.contents, report.faults);
-  const SiteFiles::Files files = SiteFiles::Of(folder, report.contents, report.faults);
+  SiteFiles::Files files = SiteFiles::Of(folder, report.contents, report.faults);
+  InstallerSigning::Sign(folder, site, keys, files, report.faults);
   if (!report.faults.empty()) return report;
   if (SiteState::IsServed(site, files)) {
     report.outcome = Outcome::Unchanged;

@@ -7,7 +7,7 @@
 
 namespace InstallerSignature {
 
-// What is behind the installer's name and address in those of its signature.
+// What is behind the installer's address in that of its signature.
 inline constexpr const char* Ending = ".sig";
 
 // Fetches the signature of an installer and judges it.
