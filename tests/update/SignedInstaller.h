@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "machine/simulated/Executable.h"
+#include "platform/Resources.h"
 #include "tests/platform/SignatureExamples.h"
 
 namespace SignedInstaller {
