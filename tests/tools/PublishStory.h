@@ -74,7 +74,8 @@ struct Told {
   std::string out;
   std::string errors;
 };
-inline Told Run(const std::vector<std::string>& arguments, const std::string& updateKey = "none") {
+inline Told PublishWith(const std::vector<std::string>& arguments,
+                        const std::string& updateKey = "none") {
   SpeakOnlyFrom("");
   std::ostringstream out;
   std::ostringstream errors;
@@ -82,7 +83,7 @@ inline Told Run(const std::vector<std::string>& arguments, const std::string& up
   return {status, out.str(), errors.str()};
 }
 inline Told Publish() {
-  return Run({Folder, Site});
+  return PublishWith({Folder, Site});
 }
 
 }  // namespace Published

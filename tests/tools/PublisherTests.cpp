@@ -4,6 +4,7 @@
 #include "base/Sha256.h"
 #include "base/Text.h"
 #include "internet/ComponentPlaces.h"
+#include "tests/archive/ArchiveCorpus.h"
 #include "tests/tools/PublishStory.h"
 #include "update/Versions.h"
 
@@ -135,7 +136,7 @@ TEST_F(Publishing, FollowsEveryChange) {
 
 TEST_F(Publishing, GivesTheSameBytesElsewhere) {
   PublishFirst();
-  EXPECT_EQ(Run({Folder, "C:\\Other\\Site"}).status, PublishCommand::Done);
+  EXPECT_EQ(PublishWith({Folder, "C:\\Other\\Site"}).status, PublishCommand::Done);
   EXPECT_EQ(Tree(machine, "C:\\Other\\Site"), Tree(machine, Site));
 }
 
@@ -149,7 +150,7 @@ TEST_F(Publishing, PassesOverWhatIsHidden) {
 
 TEST_F(Publishing, NeedsNoMoreThanOneFolder) {
   machine.files.Put("C:\\Small\\tracks\\marsh.zip", Track("marsh"));
-  EXPECT_EQ(Run({"C:\\Small\\", Site + "/"}).status, PublishCommand::Done);
+  EXPECT_EQ(PublishWith({"C:\\Small\\", Site + "/"}).status, PublishCommand::Done);
   EXPECT_EQ(Text(Data + "cars.lst"), "");
   EXPECT_EQ(Text(Data + "tracks.lst"), "marsh:marsh.zip\n");
   EXPECT_FALSE(machine.files.Exists(Current + "orvane\\software"));
@@ -224,7 +225,7 @@ TEST_F(PublishedPage, HasHeadingsCaptionsAndALanguage) {
 
 TEST_F(PublishedPage, OfNothingSaysSo) {
   machine.files.Put("C:\\Small\\pages\\index.html", "<h1>Home</h1>");
-  EXPECT_EQ(Run({"C:\\Small", Site}).status, PublishCommand::Done);
+  EXPECT_EQ(PublishWith({"C:\\Small", Site}).status, PublishCommand::Done);
   const std::string page = Text(Current + "orvane\\games\\sk2\\index.html");
   EXPECT_THAT(page, HasSubstr("<h2 id=\"cars\">Cars</h2>\n<p>There are none yet.</p>"));
   EXPECT_THAT(page, HasSubstr("<p>There is no program to download.</p>"));
@@ -349,13 +350,49 @@ TEST_F(Publishing, RefusesWhatLiesInNoFolderOfItsKind) {
 }
 
 TEST_F(Publishing, RefusesFoldersWhereFilesBelong) {
-  ExpectFault("cars\\new\\buggy.zip", Car("buggy"), "C:/Offer/cars/new: This is a folder.");
-  ExpectFault("software\\new\\sk2up.exe", "", "C:/Offer/software/new: This is a folder.");
+  PublishFirst();
+  Put("cars\\new\\buggy.zip", Car("buggy"));
+  Put("software\\new\\sk2up.exe", "");
+  ExpectRefused(
+      {"C:/Offer/cars/new: This is a folder.", "C:/Offer/software/new: This is a folder."});
+}
+
+TEST_F(Publishing, RefusesArchivesThatThePackWouldNotUnpack) {
+  for (const ArchiveCorpus::Hostile& hostile : ArchiveCorpus::HostileArchives()) {
+    SCOPED_TRACE(hostile.what);
+    Put("langs\\hostile.zip", hostile.bytes);
+    const Told told = Publish();
+    EXPECT_EQ(told.status, PublishCommand::Refused);
+    EXPECT_THAT(told.errors, StartsWith("C:/Offer/langs/hostile.zip: "));
+    EXPECT_THAT(told.errors, HasSubstr(hostile.cause.english));
+    Remove("langs\\hostile.zip");
+  }
+}
+
+TEST_F(Publishing, RefusesArchivesThatHoldNoGoodCarOrTrack) {
+  const auto archive = [](const std::vector<ZipBytes::Member>& members) {
+    return ZipBytes::Bytes({.members = members});
+  };
+  const ZipBytes::Member car{.name = "a.vhc", .contents = "skidrun=100\r\n"};
+  const ZipBytes::Member other{.name = "b.vhc", .contents = "skidrun=100\r\n"};
+  const ZipBytes::Member silent{.name = "a.vhc", .contents = "skidrun=1\r\nhornsound=no.wav\r\n"};
+  const ZipBytes::Member endless{.name = "a.trk", .contents = "0\r\n0\r\n5000\r\n"};
+  const ZipBytes::Member text{.name = "a.txt", .contents = "a text"};
+  const std::string start = "C:/Offer/cars/a.zip: ";
+  ExpectFault("cars\\a.zip", archive({text}),
+              start + "The archive holds neither a vehicle (.vhc) nor a track (.trk).\n");
+  ExpectFault("cars\\a.zip", archive({car, other}),
+              start + "The archive holds 2 vehicles and tracks. A package holds one.\n");
+  ExpectFault("cars\\a.zip", archive({silent}), start + "a.vhc, Line 2: ");
+  ExpectFault("tracks\\a.zip", archive({endless}), "C:/Offer/tracks/a.zip: a.trk, Line 3: ");
+  ExpectFault("cars\\a.zip", Track("a"), start + "The archive holds a track, not a car.\n");
+  ExpectFault("tracks\\a.zip", Car("a"),
+              "C:/Offer/tracks/a.zip: The archive holds a car, not a track.\n");
 }
 
 TEST_F(Publishing, RefusesAnEmptyFolder) {
   machine.files.PutFolder("C:\\Empty");
-  const Told told = Run({"C:\\Empty", Site});
+  const Told told = PublishWith({"C:\\Empty", Site});
   EXPECT_EQ(told.status, PublishCommand::Refused);
   EXPECT_THAT(told.errors, StartsWith("C:/Empty: There is nothing in this folder"));
 }
@@ -384,7 +421,7 @@ TEST_F(Publishing, TellsAllFaultsInOneRun) {
 // --- What cannot be looked at or written ---
 
 TEST_F(Publishing, SaysThatThereIsNoFolder) {
-  const Told told = Run({"C:\\None", Site});
+  const Told told = PublishWith({"C:\\None", Site});
   EXPECT_EQ(told.status, PublishCommand::Failed);
   EXPECT_EQ(told.errors, "sk2publish: The folder was not found.\nFile: C:\\None\n");
   EXPECT_FALSE(machine.files.Exists(Site));
@@ -394,11 +431,11 @@ TEST_F(Publishing, NeedsAFolderAndASiteThatDoNotLieInEachOther) {
   for (const auto& [folder, site] : {std::pair{"C:\\Offer", "c:\\offer"},
                                      {"C:\\Offer", "C:\\Offer\\site"},
                                      {"C:\\Offer\\cars", "C:\\Offer"}}) {
-    const Told told = Run({folder, site});
+    const Told told = PublishWith({folder, site});
     EXPECT_EQ(told.status, PublishCommand::Failed) << folder << " " << site;
     EXPECT_THAT(told.errors, HasSubstr("must not lie in each other"));
   }
-  EXPECT_EQ(Run({"C:\\Offer", "C:\\Offer2"}).status, PublishCommand::Done);
+  EXPECT_EQ(PublishWith({"C:\\Offer", "C:\\Offer2"}).status, PublishCommand::Done);
 }
 
 TEST_F(Publishing, AFileThatCannotBeReadIsAFailure) {
@@ -410,6 +447,19 @@ TEST_F(Publishing, AFileThatCannotBeReadIsAFailure) {
   EXPECT_THAT(told.errors, HasSubstr("coach.zip"));
   EXPECT_EQ(Tree(machine, Site), before);
   machine.files.Release(Folder + "\\cars\\coach.zip");
+}
+
+TEST_F(Publishing, WaitsForNoOtherRunAndDisturbsNone) {
+  PublishFirst();
+  Put("cars\\new.zip", Car("new"));
+  machine.files.Put(Site + "\\lock.sk2", "");
+  machine.files.Hold(Site + "\\lock.sk2");
+  const auto before = Tree(machine, Site);
+  EXPECT_EQ(Publish().status, PublishCommand::Failed);
+  EXPECT_EQ(Tree(machine, Site), before);
+  machine.files.Release(Site + "\\lock.sk2");
+  PublishFirst();
+  EXPECT_THAT(machine.files.Names(Site), ElementsAre("current"));
 }
 
 TEST_F(Publishing, AFullDiskIsAFailure) {
@@ -435,7 +485,7 @@ TEST_F(Publishing, IsCalledWithTwoFolders) {
                                              {"--key", "", Folder, Site},
                                              {"--key", Folder, Site},
                                              {"--key", "a", "--key", "b", Folder, Site}}) {
-    const Told told = Run(arguments);
+    const Told told = PublishWith(arguments);
     EXPECT_EQ(told.status, PublishCommand::Failed);
     EXPECT_EQ(told.errors,
               "usage: sk2publish [--key KEY.pem] [--public-key KEY.pem] FOLDER SITE\n"
@@ -445,7 +495,7 @@ TEST_F(Publishing, IsCalledWithTwoFolders) {
 }
 
 TEST_F(Publishing, ExplainsItself) {
-  const Told help = Run({"--help"});
+  const Told help = PublishWith({"--help"});
   EXPECT_EQ(help.status, PublishCommand::Done);
   EXPECT_EQ(help.errors, "");
   for (const char* text :
@@ -453,7 +503,7 @@ TEST_F(Publishing, ExplainsItself) {
         "software/versions.txt", "pages/", "SITE/current", "Exit status"}) {
     EXPECT_THAT(help.out, HasSubstr(text));
   }
-  EXPECT_EQ(Run({"--version"}).out, "sk2publish 1.0.0\n");
+  EXPECT_EQ(PublishWith({"--version"}).out, "sk2publish 1.0.0\n");
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ void PutKeys(Simulated::Machine& machine) {
 }
 
 Told PublishSigned() {
-  return Run({"--key", Key, "--public-key", PublicKey, Folder, Site});
+  return PublishWith({"--key", Key, "--public-key", PublicKey, Folder, Site});
 }
 
 // That players' packs would start the installer that is served.
@@ -71,21 +71,22 @@ TEST_F(Signing, KeepsASignatureThatIsStillRight) {
 }
 
 TEST_F(Signing, RefusesAKeyThatIsNotThePacks) {
-  ExpectRefused(Run({"--key", "C:\\Keys\\other.pem", "--public-key", PublicKey, Folder, Site}),
-                "C:/Offer/software/sk2up.exe: The private key is not that of the public key");
+  ExpectRefused(
+      PublishWith({"--key", "C:\\Keys\\other.pem", "--public-key", PublicKey, Folder, Site}),
+      "C:/Offer/software/sk2up.exe: The private key is not that of the public key");
 }
 
 TEST_F(Signing, RefusesAnInstallerWithoutASignature) {
-  ExpectRefused(Run({"--public-key", PublicKey, Folder, Site}),
+  ExpectRefused(PublishWith({"--public-key", PublicKey, Folder, Site}),
                 "C:/Offer/software/sk2up.exe: It is not signed");
   // As it is built into the program.
-  ExpectRefused(Run({Folder, Site}, SignatureExamples::MakerKey), "It is not signed");
+  ExpectRefused(PublishWith({Folder, Site}, SignatureExamples::MakerKey), "It is not signed");
 }
 
 TEST_F(Signing, PublishesASignatureThatLiesBesideTheInstaller) {
   Put("software\\sk2up.exe", SignatureExamples::Contents);
   Put("software\\sk2up.exe.sig", SignatureExamples::FromHex(SignatureExamples::OfTheMaker[1]));
-  const Told told = Run({Folder, Site}, SignatureExamples::MakerKey);
+  const Told told = PublishWith({Folder, Site}, SignatureExamples::MakerKey);
   EXPECT_EQ(told.status, PublishCommand::Done) << told.errors;
   EXPECT_TRUE(IsTakenByPacks(machine));
 }
@@ -97,7 +98,7 @@ TEST_F(Signing, RefusesASignatureThatIsNotRight) {
         SignatureExamples::FromHex(SignatureExamples::OfTheOther),
         SignatureExamples::FromHex(SignatureExamples::OfNothing)}) {
     Put("software\\sk2up.exe.sig", signature);
-    ExpectRefused(Run({"--public-key", PublicKey, Folder, Site}),
+    ExpectRefused(PublishWith({"--public-key", PublicKey, Folder, Site}),
                   "C:/Offer/software/sk2up.exe.sig: It is not the signature of sk2up.exe");
   }
 }
@@ -115,7 +116,7 @@ TEST_F(Signing, WithoutAnInstallerNeedsNoSignature) {
 
 TEST_F(Signing, ThatPacksDoNotAskForLeavesTheFileAsItIs) {
   Put("software\\sk2up.exe.sig", "whatever it is");
-  EXPECT_EQ(Run({Folder, Site}).status, PublishCommand::Done);
+  EXPECT_EQ(PublishWith({Folder, Site}).status, PublishCommand::Done);
   EXPECT_EQ(Text(Signature), "whatever it is");
 }
 
@@ -123,7 +124,7 @@ TEST_F(Signing, NeedsKeysThatAreSome) {
   const auto expectFailure = [&](const std::vector<std::string>& options, const std::string& told) {
     std::vector<std::string> arguments = options;
     arguments.insert(arguments.end(), {Folder, Site});
-    const Told answer = Run(arguments);
+    const Told answer = PublishWith(arguments);
     EXPECT_EQ(answer.status, PublishCommand::Failed);
     EXPECT_THAT(answer.errors, HasSubstr(told));
     EXPECT_FALSE(machine.files.Exists(Site + "\\current"));
