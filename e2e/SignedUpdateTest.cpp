@@ -45,8 +45,8 @@ class SignedUpdate : public PackTest {
 };
 
 const std::string Wrong =
-    "Its signature is not right, so it was not started: the file was damaged or replaced on its "
-    "way, or is just being changed on the server.";
+    "The signature of the update is not right, so the update was not started: the file was damaged "
+    "or replaced on its way, or is just being changed on the server.";
 
 TEST_F(SignedUpdate, ThatTheMakerHasSignedIsStartedAndThePackEnds) {
   Pack& pack = StartPack();

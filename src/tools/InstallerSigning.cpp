@@ -3,7 +3,6 @@
 #include "base/Ecdsa.h"
 #include "platform/Files.h"
 #include "platform/Signature.h"
-#include "tools/SiteState.h"
 #include "update/Versions.h"
 
 namespace InstallerSigning {
@@ -23,7 +22,7 @@ std::string SignatureInFolder(const std::string& folder) {
 
 }  // namespace
 
-void Sign(const std::string& folder, const std::string& site, const Keys& keys,
+void Sign(const std::string& folder, const SiteState& site, const Keys& keys,
           SiteFiles::Files& files, Catalogue::Faults& faults) {
   const auto installer = files.find(SiteFiles::PathOf(Versions::InstallerPath));
   if (keys.packsKey.empty() || installer == files.end()) return;
@@ -47,7 +46,7 @@ void Sign(const std::string& folder, const std::string& site, const Keys& keys,
     faults.push_back({SignatureFile, "It is made by --key, and must not be here itself."});
     return;
   }
-  std::string signature = SiteState::ServedText(site, path);
+  std::string signature = site.ServedText(path);
   if (!isRight(signature)) signature = Platform::SignatureOf(installer->second.sum, keys.keyFile);
   if (!isRight(signature)) {
     faults.push_back(

@@ -5,6 +5,7 @@
 
 #include "tools/Catalogue.h"
 #include "tools/SiteFiles.h"
+#include "tools/SiteState.h"
 
 namespace InstallerSigning {
 
@@ -23,7 +24,7 @@ struct Keys {
 //           to: signing anew gives another one each time.
 //   folder  that of the files.
 // Fails as Platform::IsSignatureRight, Platform::SignatureOf and SiteState::ServedText do.
-void Sign(const std::string& folder, const std::string& site, const Keys& keys,
+void Sign(const std::string& folder, const SiteState& site, const Keys& keys,
           SiteFiles::Files& files, Catalogue::Faults& faults);
 
 }  // namespace InstallerSigning

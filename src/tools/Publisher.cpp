@@ -47,7 +47,7 @@ Report Publish(const std::string& folder, const std::string& site,
       report.contents, state.ServedText(SiteFiles::PathOf(Versions::RecordsPath)), report.faults);
   JudgeArchives(folder, report.contents, report.faults);
   SiteFiles::Files files = SiteFiles::Of(folder, report.contents, report.faults);
-  InstallerSigning::Sign(folder, site, keys, files, report.faults);
+  InstallerSigning::Sign(folder, state, keys, files, report.faults);
   if (!report.faults.empty()) return report;
   if (state.IsServed(files)) {
     report.outcome = Outcome::Unchanged;

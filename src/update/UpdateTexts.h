@@ -36,11 +36,13 @@ struct UpdateTextTable {
                               "The specified file does not exist on the internet."};
   LangText UpdateSignatureMissing{
       "UpdateSignatureMissing",
-      "Its signature could not be fetched, so it was not started. Please try again later."};
+      "The signature of the update could not be fetched, so the update was not started. Please try "
+      "again later."};
   LangText UpdateSignatureWrong{
       "UpdateSignatureWrong",
-      "Its signature is not right, so it was not started: the file was damaged or replaced on its "
-      "way, or is just being changed on the server. Please try again later."};
+      "The signature of the update is not right, so the update was not started: the file was "
+      "damaged or replaced on its way, or is just being changed on the server. Please try again "
+      "later."};
   LangText ErrorUpdatingTitle{"ErrorUpdatingTitle", "Error"};
   LangText AutoUpdate{"AutoUpdate", "Automatic update checks are now turned"};
   LangText On{"On", "on"};

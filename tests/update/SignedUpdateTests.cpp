@@ -15,11 +15,14 @@ using testing::SizeIs;
 
 const std::string Error = "There was an error updating Skidrun2 Utility Pack. ";
 const std::string Missing =
-    Error + "Its signature could not be fetched, so it was not started. Please try again later.";
+    Error +
+    "The signature of the update could not be fetched, so the update was not started. Please try "
+    "again later.";
 const std::string Wrong =
     Error +
-    "Its signature is not right, so it was not started: the file was damaged or replaced on its "
-    "way, or is just being changed on the server. Please try again later.";
+    "The signature of the update is not right, so the update was not started: the file was "
+    "damaged or replaced on its way, or is just being changed on the server. Please try again "
+    "later.";
 
 class SignedUpdateStory : public UpdateStory {
  protected:
