@@ -1,9 +1,16 @@
 # The shipped program, staged as it is installed, and the same program under other versions for the
 # tests of its title.
 #
-# sk2_version_resource(NAME VERSION DESCRIPTION): generated/NAME.rc with the pack's icon, manifest and
-# sounds. The target that it is linked to depends on "sounds".
+# sk2_version_resource(NAME VERSION DESCRIPTION [KEY]): generated/NAME.rc with the pack's icon, manifest
+# and sounds, and with the key that updates are signed with, the configured one if none is given. The
+# target that it is linked to depends on "sounds".
 function(sk2_version_resource name version description)
+  set(key "${SK2_UPDATE_KEY_TEXT}")
+  if(ARGC GREATER 3)
+    set(key "${ARGV3}")
+  endif()
+  set(SK2_RC_UPDATE_KEY ${CMAKE_BINARY_DIR}/generated/${name}-key.txt)
+  file(GENERATE OUTPUT ${SK2_RC_UPDATE_KEY} CONTENT "${key}\n")
   string(REPLACE "." "," SK2_RC_VERSION "${version},0")
   set(SK2_RC_VERSION_TEXT "${version}")
   set(SK2_RC_DESCRIPTION "${description}")
@@ -12,12 +19,12 @@ function(sk2_version_resource name version description)
   configure_file(${CMAKE_SOURCE_DIR}/resources/sk2pack.rc.in ${resource} @ONLY)
   set_source_files_properties(${resource} PROPERTIES
     INCLUDE_DIRECTORIES "${CMAKE_SOURCE_DIR}/resources;${SK2_SOUNDS}"
-    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/sk2pack.manifest;${CMAKE_SOURCE_DIR}/resources/sk2pack.ico;${SK2_SOUNDS}/sounds.rc")
+    OBJECT_DEPENDS "${SK2_RC_UPDATE_KEY};${CMAKE_SOURCE_DIR}/resources/sk2pack.manifest;${CMAKE_SOURCE_DIR}/resources/sk2pack.ico;${SK2_SOUNDS}/sounds.rc")
 endfunction()
 
-# sk2_pack(NAME VERSION DESCRIPTION): an executable NAME.exe of the pack with that version.
+# sk2_pack(NAME VERSION DESCRIPTION [KEY]): an executable NAME.exe of the pack with that version and key.
 function(sk2_pack name version description)
-  sk2_version_resource(${name} ${version} ${description})
+  sk2_version_resource(${name} ${version} ${description} ${ARGN})
   add_executable(${name} WIN32 src/app/Main.cpp ${CMAKE_BINARY_DIR}/generated/${name}.rc)
   target_link_libraries(${name} PRIVATE core machine)
   target_link_options(${name} PRIVATE -s)
@@ -36,4 +43,7 @@ set(versions ${CMAKE_BINARY_DIR}/versions)
 sk2_pack(sk2alpha 0.0.7 "Skidrun2 Utility Pack")
 sk2_pack(sk2beta 0.5.2 "Skidrun2 Utility Pack")
 sk2_pack(sk2candidate 1.2.3 "Skidrun2 Utility Pack RC1")
-set_target_properties(sk2alpha sk2beta sk2candidate PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${versions})
+# And one that takes only what the tests' own key has signed.
+sk2_update_key(tests_key ${CMAKE_SOURCE_DIR}/tests/keys/maker-public.pem)
+sk2_pack(sk2signed ${PROJECT_VERSION} "Skidrun2 Utility Pack" "${tests_key}")
+set_target_properties(sk2alpha sk2beta sk2candidate sk2signed PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${versions})

@@ -28,6 +28,12 @@ std::optional<std::string> BytesOf(const std::string& path) {
   return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
+std::string MustRead(const std::string& path) {
+  const auto bytes = BytesOf(path);
+  if (!bytes) throw std::runtime_error(path + " is not there");
+  return *bytes;
+}
+
 // A program's file cannot be written while it runs.
 bool HasEnded(const std::string& path) {
   const HANDLE file =
@@ -44,9 +50,11 @@ std::string NoteOf(const std::string& path) {
 }  // namespace
 
 std::string ProgramToStart() {
-  const auto bytes = BytesOf(PathOfProgram());
-  if (!bytes) throw std::runtime_error(PathOfProgram() + " is not there");
-  return *bytes;
+  return MustRead(PathOfProgram());
+}
+
+std::string SignatureOfProgramToStart() {
+  return MustRead(PathOfProgram() + ".sig");
 }
 
 Start StartOf(const std::string& path) {

@@ -9,6 +9,9 @@ namespace E2e {
 // not built.
 std::string ProgramToStart();
 
+// The signature of those bytes by the tests' own key.
+std::string SignatureOfProgramToStart();
+
 struct Start {
   std::string arguments;  // what stands behind the program in its command line, byte for byte
   bool isMinimised;       // it is to show its first window so

@@ -6,6 +6,7 @@
 #include "archive/ArchiveTexts.h"
 #include "base/RuntimeErrorTexts.h"
 #include "base/SharedTexts.h"
+#include "base/SignatureTexts.h"
 #include "base/SoundTexts.h"
 #include "game/FileDialogTexts.h"
 #include "game/GameTexts.h"
@@ -34,6 +35,7 @@ std::vector<LangText> AllTexts() {
   add(RecordTexts);
   add(InternetTexts);
   add(UpdateTexts);
+  add(SignatureTexts);
   add(SoundTexts);
   add(ArchiveTexts);
   add(RuntimeErrorTexts);

@@ -23,6 +23,7 @@ class OpenFile {
   enum class How {
     ToRead,           // others may write to it meanwhile, but not delete or replace it
     ToGlance,         // others may do all of that
+    ToGuard,          // others may read it and do nothing else, on a machine that can see to that
     ToAppend,         // to its end; made if there is none. Others may read it
     ToRewrite,        // read and written. Others may read it
     ToRewriteShared,  // the same for a file that another program is writing too

@@ -8,6 +8,8 @@ namespace Platform {
 
 // The type of the resources that are sounds, each a whole wave file.
 inline constexpr int SoundResource = 1408;
+// The type of those that are any bytes.
+inline constexpr int DataResource = 10;
 
 // The bytes of a resource of the running program; nothing if there is none of that type and name.
 // The file itself is not read again, so it may have gone meanwhile.

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "internet/ComponentPlaces.h"
-#include "tools/FileSum.h"
+#include "platform/FileSum.h"
 #include "update/Versions.h"
 
 namespace Catalogue {

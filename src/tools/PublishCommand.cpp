@@ -2,11 +2,15 @@
 
 #include <algorithm>
 #include <exception>
+#include <optional>
 #include <ostream>
 #include <string_view>
 
+#include "base/Ecdsa.h"
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "platform/Characters.h"
+#include "platform/Files.h"
 #include "platform/ServedFolder.h"
 #include "text/FailureText.h"
 #include "tools/Publisher.h"
@@ -15,13 +19,14 @@ namespace PublishCommand {
 
 namespace {
 
-constexpr const char* Usage = "usage: sk2publish FOLDER SITE\n";
+constexpr const char* Usage =
+    "usage: sk2publish [--key KEY.pem] [--public-key KEY.pem] FOLDER SITE\n";
 
 constexpr const char* Help =
     R"(Publishes add-ons for Skidrun2 and releases of its Utility Pack: makes, of a
 folder of archives, the files of a web site that players' packs read.
 
-usage: sk2publish FOLDER SITE
+usage: sk2publish [--key KEY.pem] [--public-key KEY.pem] FOLDER SITE
        sk2publish --help | --version
 
 FOLDER holds what is offered. Each of these may be missing:
@@ -44,6 +49,13 @@ All or nothing: the new state of the site is made beside the old one and takes i
 place in one step, and only if nothing in FOLDER is at fault. Ended at any moment,
 the old state or the new one is served. If nothing has changed, nothing is written.
 
+--key KEY.pem         signs the installer with this private key, by which packs know
+                      that it is yours: software/sk2up.exe.sig on the site. Without
+                      it, a signature that lies beside the installer is published.
+--public-key KEY.pem  the public key that players' packs were built with; without it,
+                      the one that this program was built with, if any. An installer
+                      that packs with this key would not start is refused.
+
 Refused are, each with its file and the reason, all in one run:
   - archives that cannot be unpacked safely, or that do not hold exactly one car
     or track that the pack finds without a fault, with the sounds it names;
@@ -51,6 +63,7 @@ Refused are, each with its file and the reason, all in one run:
     about one, and names with ":" or with characters that web addresses change;
   - display names that are the beginning of a later one in the list, since the
     pack then fetches the later one, or that another kind has too;
+  - an installer whose signature is missing or wrong, if packs ask for one;
   - versions that are not three whole numbers, and those lower than the published.
 
 Exit status: 0 published, or nothing had changed; 1 refused, the site is as it
@@ -83,9 +96,65 @@ void TellOutcome(const Publisher::Report& report, const std::string& site, std::
       << Shown(Platform::ServedFolder(site)) << "\n";
 }
 
-int Publish(const std::string& folder, const std::string& site, std::ostream& out,
-            std::ostream& errors) {
-  const Publisher::Report report = Publisher::Publish(folder, site);
+constexpr LangText NoPublicKey{"",
+                               "This is no public key on the curve P-256, as \"openssl ec "
+                               "-pubout\" writes it, in a PEM file."};
+
+constexpr LangText KeyAlone{
+    "", "With --key, --public-key must tell the key that players' packs were built with."};
+
+std::string KeyIn(const std::string& text, const std::string& file) {
+  std::optional<std::string> key = Ecdsa::KeyInPem(text);
+  if (!key) throw RuntimeError(RuntimeError::InvalidCall, NoPublicKey, file);
+  return *std::move(key);
+}
+
+// The key that players' packs have; empty if they have none.
+std::string PacksKey(const std::string& file, const Build& build) {
+  if (file.empty()) return build.updateKey == "none" ? "" : KeyIn(build.updateKey, "");
+  const auto text = Platform::ReadWholeFile(file);
+  if (!text) throw RuntimeError(RuntimeError::FileNotFound, file);
+  return KeyIn(*text, file);
+}
+
+struct Call {
+  std::string folder;
+  std::string site;
+  std::string keyFile;
+  std::string publicKeyFile;
+};
+
+// What the arguments ask for; nothing if they are wrong.
+std::optional<Call> Understood(const std::vector<std::string>& arguments) {
+  Call call;
+  std::vector<std::string> folders;
+  for (size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    if (!argument.starts_with('-')) {
+      folders.push_back(PathIn(argument));
+      continue;
+    }
+    std::string* const file = argument == "--key"          ? &call.keyFile
+                              : argument == "--public-key" ? &call.publicKeyFile
+                                                           : nullptr;
+    // Each once, with a file behind it.
+    if (!file || !file->empty() || ++i == arguments.size()) return std::nullopt;
+    *file = PathIn(arguments[i]);
+    if (file->empty()) return std::nullopt;
+  }
+  if (folders.size() != 2 || folders[0].empty() || folders[1].empty()) return std::nullopt;
+  call.folder = folders[0];
+  call.site = folders[1];
+  return call;
+}
+
+int Publish(const Call& call, const Build& build, std::ostream& out, std::ostream& errors) {
+  const auto& [folder, site, keyFile, publicKeyFile] = call;
+  const InstallerSigning::Keys keys{PacksKey(publicKeyFile, build), keyFile};
+  if (keys.packsKey.empty() && !keyFile.empty()) {
+    throw RuntimeError(RuntimeError::InvalidCall, KeyAlone);
+  }
+  const Publisher::Report report = Publisher::Publish(folder, site, keys);
   if (report.outcome != Publisher::Outcome::Refused) {
     TellOutcome(report, site, out);
     return Done;
@@ -101,7 +170,7 @@ int Publish(const std::string& folder, const std::string& site, std::ostream& ou
 
 }  // namespace
 
-int Run(const std::vector<std::string>& arguments, const std::string& version, std::ostream& out,
+int Run(const std::vector<std::string>& arguments, const Build& build, std::ostream& out,
         std::ostream& errors) {
   const auto has = [&](const char* option) {
     return std::ranges::find(arguments, option) != arguments.end();
@@ -111,17 +180,16 @@ int Run(const std::vector<std::string>& arguments, const std::string& version, s
     return Done;
   }
   if (has("--version")) {
-    out << "sk2publish " << version << "\n";
+    out << "sk2publish " << build.version << "\n";
     return Done;
   }
-  const bool hasOption =
-      std::ranges::any_of(arguments, [](const auto& text) { return text.starts_with('-'); });
-  if (arguments.size() != 2 || hasOption || arguments[0].empty() || arguments[1].empty()) {
+  const std::optional<Call> call = Understood(arguments);
+  if (!call) {
     errors << Usage << "More is told by: sk2publish --help\n";
     return Failed;
   }
   try {
-    return Publish(PathIn(arguments[0]), PathIn(arguments[1]), out, errors);
+    return Publish(*call, build, out, errors);
   } catch (const std::exception& error) {
     const std::string text = Text::Replace(FailureText(error), Text::LineEnd, "\n");
     errors << "sk2publish: " << Shown(text) << "\n";

@@ -12,12 +12,19 @@ inline constexpr int Done = 0;     // published, or nothing had changed
 inline constexpr int Refused = 1;  // something in the folder is at fault; all of it has been told
 inline constexpr int Failed = 2;   // it could not be looked at or written, or was called wrongly
 
+struct Build {
+  std::string version;  // the program's, as "--version" tells it
+  // The public key that packs of the same build have, as the text of a PEM file; "none" if they
+  // have none.
+  std::string updateKey;
+};
+
 // Does what the arguments say and returns one of those. Never throws.
 //   arguments  without the program's name, in the system code page.
-//   version    the program's, as "--version" tells it.
+//   build      what the program was built with.
 //   out        what was done, one line each, in UTF-8.
 //   errors     each fault as "file: reason", or the failure.
-int Run(const std::vector<std::string>& arguments, const std::string& version, std::ostream& out,
+int Run(const std::vector<std::string>& arguments, const Build& build, std::ostream& out,
         std::ostream& errors);
 
 }  // namespace PublishCommand

@@ -32,7 +32,8 @@ void JudgeArchives(const std::string& folder, const Catalogue::Contents& content
 
 }  // namespace
 
-Report Publish(const std::string& folder, const std::string& site) {
+Report Publish(const std::string& folder, const std::string& site,
+               const InstallerSigning::Keys& keys) {
   if (IsIn(folder, site) || IsIn(site, folder)) {
     throw RuntimeError(RuntimeError::InvalidCall, OneInTheOther, site);
   }
@@ -45,7 +46,8 @@ Report Publish(const std::string& folder, const std::string& site) {
   CatalogueRules::JudgeVersions(
       report.contents, state.ServedText(SiteFiles::PathOf(Versions::RecordsPath)), report.faults);
   JudgeArchives(folder, report.contents, report.faults);
-  const SiteFiles::Files files = SiteFiles::Of(folder, report.contents, report.faults);
+  SiteFiles::Files files = SiteFiles::Of(folder, report.contents, report.faults);
+  InstallerSigning::Sign(folder, state, keys, files, report.faults);
   if (!report.faults.empty()) return report;
   if (state.IsServed(files)) {
     report.outcome = Outcome::Unchanged;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "tools/Catalogue.h"
+#include "tools/InstallerSigning.h"
 
 namespace Publisher {
 
@@ -25,8 +26,10 @@ struct Report {
 // All or nothing: whatever fails, and wherever the program is ended, the state that was served is
 // served, or the new one, whole. What an ended run has left is removed by the next.
 //
-// Fails as Catalogue::Read and SiteState::Serve do; with RuntimeError InvalidCall where one of the
-// folders lies in the other.
-Report Publish(const std::string& folder, const std::string& site);
+//   keys  with which the installer is signed, and judged.
+// Fails as Catalogue::Read, InstallerSigning::Sign and SiteState::Serve do; with RuntimeError
+// InvalidCall where one of the folders lies in the other.
+Report Publish(const std::string& folder, const std::string& site,
+               const InstallerSigning::Keys& keys);
 
 }  // namespace Publisher

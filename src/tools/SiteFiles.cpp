@@ -13,13 +13,6 @@ namespace {
 constexpr const char* SoftwareAddress = "/orvane/software/";
 constexpr const char* HomePage = "/index.html";
 
-SiteFile Made(std::string text) {
-  SiteFile file;
-  file.sum = SumOfText(text);
-  file.text = std::move(text);
-  return file;
-}
-
 SiteFile CopyOf(const std::string& folder, const Catalogue::File& file) {
   return {"", folder + "\\" + file.path, file.sum};
 }
@@ -35,6 +28,13 @@ bool IsTaken(const std::string& path, const Files& files) {
 }
 
 }  // namespace
+
+SiteFile Made(std::string text) {
+  SiteFile file;
+  file.sum = SumOfText(text);
+  file.text = std::move(text);
+  return file;
+}
 
 std::string PathOf(const std::string& address) {
   return Text::Replace(address.substr(1), "/", "\\");

@@ -17,6 +17,9 @@ struct SiteFile {
 // By their paths in the site, such as "orvane\games\sk2\data\cars.lst".
 using Files = std::map<std::string, SiteFile>;
 
+// One that is made here, with the checksum of its text.
+SiteFile Made(std::string text);
+
 // The path in the site of an address, such as "/orvane/software/versions.dat".
 std::string PathOf(const std::string& address);
 

@@ -11,6 +11,6 @@
 int main(int count, char** arguments) {
   // The reasons of the pack, in its own words, which are English by default.
   SpeakOnlyFrom("");
-  return PublishCommand::Run(Platform::StartConsole(count, arguments), SK2_VERSION, std::cout,
-                             std::cerr);
+  return PublishCommand::Run(Platform::StartConsole(count, arguments),
+                             {SK2_VERSION, SK2_UPDATE_KEY}, std::cout, std::cerr);
 }

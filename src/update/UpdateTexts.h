@@ -34,6 +34,15 @@ struct UpdateTextTable {
   LangText ErrorUpdatingText1{"ErrorUpdatingText1", "There was an error updating"};
   LangText ErrorUpdatingText2{"ErrorUpdatingText2",
                               "The specified file does not exist on the internet."};
+  LangText UpdateSignatureMissing{
+      "UpdateSignatureMissing",
+      "The signature of the update could not be fetched, so the update was not started. Please try "
+      "again later."};
+  LangText UpdateSignatureWrong{
+      "UpdateSignatureWrong",
+      "The signature of the update is not right, so the update was not started: the file was "
+      "damaged or replaced on its way, or is just being changed on the server. Please try again "
+      "later."};
   LangText ErrorUpdatingTitle{"ErrorUpdatingTitle", "Error"};
   LangText AutoUpdate{"AutoUpdate", "Automatic update checks are now turned"};
   LangText On{"On", "on"};

@@ -1,6 +1,7 @@
 #include "update/Updater.h"
 
 #include <exception>
+#include <optional>
 
 #include "base/SharedTexts.h"
 #include "base/Text.h"
@@ -8,11 +9,15 @@
 #include "internet/Internet.h"
 #include "internet/TemporaryFile.h"
 #include "platform/Executable.h"
+#include "platform/FileGuard.h"
 #include "platform/Files.h"
 #include "platform/Launch.h"
+#include "platform/Web.h"
 #include "text/StringTable.h"
 #include "ui/Forms.h"
 #include "ui/Messages.h"
+#include "update/InstallerSignature.h"
+#include "update/UpdateKey.h"
 #include "update/UpdateTexts.h"
 #include "update/Versions.h"
 
@@ -44,6 +49,48 @@ std::string LookUpVersion(const std::string& url, const std::string& product,
   // Whether that went well is seen from the file.
   Internet::DownloadURLToFile(url, records.path(), true);
   return Versions::VersionIn(records.Read(), product, separator);
+}
+
+void TellError(const LangText& what) {
+  const std::string text = GetLangString(UpdateTexts.ErrorUpdatingText1) + " " +
+                           Platform::ReadProgramVersion().productName + ". " + GetLangString(what);
+  Messages::Show(text, UpdateTexts.ErrorUpdatingTitle, Platform::Icon::Critical);
+}
+
+void Run(const std::string& updater, const std::string& arguments) {
+  Platform::LaunchMinimised(updater, arguments);
+  Platform::EndProgram();
+}
+
+// What is told of an installer that is not the maker's; null if it is, and has been started.
+const LangText* FaultOrRun(const std::string& url, const std::string& updater,
+                           const std::string& arguments, const std::string& key) {
+  // Held until the program has ended: nobody may change it between the judgement and the start.
+  const Platform::FileGuard guard(updater);
+  const LangText* const fault = InstallerSignature::FaultOf(url, updater, key);
+  if (!fault) Run(updater, arguments);
+  return fault;
+}
+
+// An installer that is not started does not stay where the user might start it.
+void RunIfSigned(const std::string& url, const std::string& updater, const std::string& arguments,
+                 const std::string& key) {
+  const LangText* fault = nullptr;
+  std::exception_ptr failure;
+  try {
+    fault = FaultOrRun(url, updater, arguments, key);
+    if (!fault) return;
+  } catch (const std::exception&) {
+    failure = std::current_exception();
+  }
+  try {
+    Platform::RemoveFile(updater);
+  } catch (const std::exception&) {
+    // Why it was not started comes first.
+    if (!failure) failure = std::current_exception();
+  }
+  if (fault) TellError(*fault);
+  if (failure) std::rethrow_exception(failure);
 }
 
 }  // namespace
@@ -109,21 +156,23 @@ bool ShowUpdatePrompt(const std::string& available) {
 }
 
 void RunUpdater(const std::string& url, const std::string& folder, bool areSwitchesSilent) {
-  if (!Internet::URLExists(url)) {
-    const std::string text = GetLangString(UpdateTexts.ErrorUpdatingText1) + " " +
-                             Platform::ReadProgramVersion().productName + ". " +
-                             GetLangString(UpdateTexts.ErrorUpdatingText2);
-    return Messages::Show(text, UpdateTexts.ErrorUpdatingTitle, Platform::Icon::Critical);
-  }
+  const std::optional<std::string> key = UpdateKey();
+  // An installer of which the system has kept a copy would not be the one that is signed now.
+  if (key) Platform::DropFromWebCache(url);
+  if (!Internet::URLExists(url)) return TellError(UpdateTexts.ErrorUpdatingText2);
   const std::string updater = UpdaterPathIn(folder);
   // Only what is fetched now may be started, never what lay there before: if that stays, it ends
   // here.
   Platform::RemoveFile(updater);
   // The result is not looked at. Nothing to start is told by the start, and an installer that came
-  // in part sees that for itself.
+  // in part sees that for itself, where its signature does not tell.
   Internet::DownloadURLToFile(url, updater, true);
-  Platform::LaunchMinimised(updater, areSwitchesSilent ? SilentSwitches : "");
-  Platform::EndProgram();
+  const std::string arguments = areSwitchesSilent ? SilentSwitches : "";
+  if (key) {
+    RunIfSigned(url, updater, arguments, *key);
+  } else {
+    Run(updater, arguments);
+  }
 }
 
 }  // namespace Updater

@@ -38,8 +38,12 @@ bool ShowUpdatePrompt(const std::string& available);
 // and comes back.
 //   folder            where the installer is stored, as in UpdaterPath, in place of an older one.
 //   areSwitchesSilent the installer is told to ask nothing.
-// Fails as Platform::RemoveFile does if an older one cannot be removed, and as
-// Platform::LaunchMinimised does if what came cannot be started. The program then goes on.
+// Of a program that was built with the maker's key (UpdateKey.h), the installer is started only if
+// the signature beside it on the server is right. If not, that is told, and the installer deleted;
+// so it is if it cannot be judged or started. Without a key nothing of that is asked for.
+// Fails as Platform::RemoveFile does if an older one, or one that is not started, cannot be
+// removed; as UpdateKey and InstallerSignature::FaultOf do; and as Platform::LaunchMinimised does
+// if what came cannot be started. The program then goes on.
 void RunUpdater(const std::string& url, const std::string& folder, bool areSwitchesSilent);
 
 }  // namespace Updater

@@ -37,6 +37,7 @@ Comparison Compare(std::string_view version, const Platform::ProgramVersion& pro
 // there.
 inline constexpr const char* RecordsPath = "/orvane/software/versions.dat";
 inline constexpr const char* InstallerPath = "/orvane/software/sk2up.exe";
+inline constexpr const char* SignaturePath = "/orvane/software/sk2up.exe.sig";
 inline constexpr const char* Product = "sk2up";
 inline constexpr const char* Separator = "=";
 

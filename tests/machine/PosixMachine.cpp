@@ -106,6 +106,10 @@ Platform::ProgramVersion VersionOfExecutable() {
 
 // No other program can hold a file on this machine, and numbers have one form: the contracts that
 // need more are left out by PosixMachineTests.cpp.
+std::string LackOfSignatures() {
+  return "";
+}
+
 void Hold(const std::string& path, Sharing) {
   ADD_FAILURE() << "nothing holds " << path;
 }

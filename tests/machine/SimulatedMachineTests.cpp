@@ -9,6 +9,7 @@
 #include "tests/platform/RecorderContract.h"
 #include "tests/platform/RegistryContract.h"
 #include "tests/platform/SavesContract.h"
+#include "tests/platform/SignatureContract.h"
 #include "tests/platform/SoundContract.h"
 #include "tests/platform/SystemContract.h"
 #include "tests/platform/WebContract.h"

@@ -73,6 +73,11 @@ class OwnTemporaryFolder {
 // that are there. False if this machine cannot do so: the test is then skipped.
 bool RefuseNewFiles(const std::string& folder);
 
+// --- Signatures ---
+
+// What this machine needs to judge signatures and has not got, as a sentence; empty if nothing.
+std::string LackOfSignatures();
+
 // --- Numbers ---
 
 // Sets the user's separators for the program's process: those of numbers and of amounts of money

@@ -2,6 +2,7 @@
 // those of Windows where they leave something open. Included once by each machine's tests.
 #pragma once
 
+#include "platform/FileGuard.h"
 #include "tests/platform/FileContract.h"
 
 // --- FileExists, StampOf ---
@@ -404,6 +405,31 @@ TEST_F(FilesContract, AFileThatIsBeingReadCannotBeDeletedOrRenamed) {
     EXPECT_EQ(ReadToEnd(reader), "older") << "and what is added is read too";
   }
   EXPECT_TRUE(RemoveFile(path));
+}
+
+TEST_F(FilesContract, AFileThatIsGuardedStaysAsItIs) {
+  const std::string path = In("setup.exe");
+  TestMachine::PutFile(path, "old");
+  {
+    const Platform::FileGuard guard(path);
+    const auto refuses = [&](const auto& action) {
+      return FailsWith(RuntimeError::PermissionDenied, path, action);
+    };
+    EXPECT_TRUE(refuses([&] { AppendToFile(path, "er"); }));
+    EXPECT_TRUE(refuses([&] { WriteWholeFile(path, "new"); }));
+    EXPECT_TRUE(refuses([&] { RemoveFile(path); }));
+    EXPECT_TRUE(refuses([&] { RenameFile(path, In("old.exe")); }));
+    EXPECT_EQ(ReadWholeFile(path), "old");
+    FileReader reader(path);
+    EXPECT_EQ(ReadToEnd(reader), "old");
+  }
+  WriteWholeFile(path, "new");
+  const auto guard = [](const std::string& file) {
+    return [file] { const Platform::FileGuard guard(file); };
+  };
+  EXPECT_TRUE(FailsWith(RuntimeError::FileNotFound, In("none.exe"), guard(In("none.exe"))));
+  TestMachine::Hold(path, Sharing::ForWriting);
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, guard(path)));
 }
 
 // --- FileWriter ---

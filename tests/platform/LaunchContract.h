@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/RuntimeError.h"
+#include "platform/FileGuard.h"
 #include "platform/Launch.h"
 #include "tests/machine/TestMachine.h"
 #include "ui/Forms.h"
@@ -65,6 +66,15 @@ TEST_F(LaunchContract, WhatIsNoProgramFails) {
   EXPECT_EQ(FailureOf(page), RuntimeError::DeviceError);
   TestMachine::PutFile(page, "");
   EXPECT_EQ(FailureOf(page), RuntimeError::DeviceError);
+}
+
+// So that what is started is what was read.
+TEST_F(LaunchContract, AProgramThatIsGuardedIsStarted) {
+  const std::string program = folder + "\\setup.exe";
+  TestMachine::PutProgram(program);
+  const Platform::FileGuard guard(program);
+  Platform::LaunchMinimised(program, "/SILENT");
+  EXPECT_EQ(TestMachine::StartOf(program).arguments, "/SILENT");
 }
 
 TEST_F(LaunchContract, AProgramThatIsInUseByAnotherFails) {

@@ -75,7 +75,7 @@ class DemoSite : public Story {
       machine.files.MountHostFile("C:\\Offer\\" + Text::Replace(path, "/", "\\"),
                                   entry.path().string());
     }
-    report = Publisher::Publish("C:\\Offer", "C:\\Site");
+    report = Publisher::Publish("C:\\Offer", "C:\\Site", {});
   }
   std::string Served(const std::string& path) {
     return machine.files.Text("C:\\Site\\current\\" + Text::Replace(path, "/", "\\"));

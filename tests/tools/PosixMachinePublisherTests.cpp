@@ -75,8 +75,8 @@ class NativePublishing : public testing::Test {
   };
   Told Publish() const {
     std::ostringstream told;
-    const int status =
-        PublishCommand::Run({(scratch / "offer").string(), site().string()}, "1.0.0", told, told);
+    const int status = PublishCommand::Run({(scratch / "offer").string(), site().string()},
+                                           {"1.0.0", "none"}, told, told);
     return {status, told.str()};
   }
 

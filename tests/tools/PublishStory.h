@@ -74,11 +74,12 @@ struct Told {
   std::string out;
   std::string errors;
 };
-inline Told PublishWith(const std::vector<std::string>& arguments) {
+inline Told PublishWith(const std::vector<std::string>& arguments,
+                        const std::string& updateKey = "none") {
   SpeakOnlyFrom("");
   std::ostringstream out;
   std::ostringstream errors;
-  const int status = PublishCommand::Run(arguments, "1.0.0", out, errors);
+  const int status = PublishCommand::Run(arguments, {"1.0.0", updateKey}, out, errors);
   return {status, out.str(), errors.str()};
 }
 inline Told Publish() {

@@ -477,11 +477,22 @@ TEST_F(Publishing, AFullDiskIsAFailure) {
 }
 
 TEST_F(Publishing, IsCalledWithTwoFolders) {
-  for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-           {}, {Folder}, {Folder, Site, "x"}, {Folder, ""}, {"", Site}, {"--quick", Site}}) {
+  for (const std::vector<std::string>& arguments :
+       std::vector<std::vector<std::string>>{{},
+                                             {Folder},
+                                             {Folder, Site, "x"},
+                                             {Folder, ""},
+                                             {"", Site},
+                                             {"--quick", Site},
+                                             {Folder, Site, "--key"},
+                                             {"--key", "", Folder, Site},
+                                             {"--key", Folder, Site},
+                                             {"--key", "a", "--key", "b", Folder, Site}}) {
     const Told told = PublishWith(arguments);
     EXPECT_EQ(told.status, PublishCommand::Failed);
-    EXPECT_EQ(told.errors, "usage: sk2publish FOLDER SITE\nMore is told by: sk2publish --help\n");
+    EXPECT_EQ(told.errors,
+              "usage: sk2publish [--key KEY.pem] [--public-key KEY.pem] FOLDER SITE\n"
+              "More is told by: sk2publish --help\n");
   }
   EXPECT_FALSE(machine.files.Exists(Site));
 }
@@ -490,8 +501,9 @@ TEST_F(Publishing, ExplainsItself) {
   const Told help = PublishWith({"--help"});
   EXPECT_EQ(help.status, PublishCommand::Done);
   EXPECT_EQ(help.errors, "");
-  for (const char* text : {"usage: sk2publish FOLDER SITE", "cars/", "tracks/", "langs/",
-                           "software/versions.txt", "pages/", "SITE/current", "Exit status"}) {
+  for (const char* text :
+       {"usage: sk2publish ", "--key", "--public-key", "cars/", "tracks/", "langs/",
+        "software/versions.txt", "pages/", "SITE/current", "Exit status"}) {
     EXPECT_THAT(help.out, HasSubstr(text));
   }
   EXPECT_EQ(PublishWith({"--version"}).out, "sk2publish 1.0.0\n");

@@ -1,5 +1,6 @@
 // The update check and its option in the language of keys.
 #include "tests/app/TranslatedPack.h"
+#include "tests/update/SignedInstaller.h"
 
 namespace Translated {
 
@@ -21,6 +22,17 @@ std::vector<Scene> UpdateScenes() {
          player.machine.web.Serve(server + "versions.dat", "sk2up=1.0.1");
          player.user.AnswersYes();
          check();
+         player.machine.executable.resources = {SignedInstaller::KeyResource()};
+         player.machine.web.Serve(server + "sk2up.exe", "MZ");
+         for (const char* signature : {"", "no signature"}) {
+           if (*signature) player.machine.web.Serve(server + "sk2up.exe.sig", signature);
+           player.user.AnswersYes();
+           check();
+         }
+         player.machine.web.Serve(server + "sk2up.exe.sig", SignedInstaller::Signature);
+         player.machine.faults.FailAnyCall(Simulated::After{0}, "VerifyHash");
+         player.user.AnswersYes();
+         check();
        },
        {"box <Error>: <GVNotConnected>", "box <Error>: <GVNoVersionFile>",
         "box <Error>: <GVNoVersion>", "box <Error>: <GVInvalidVersionFile>",
@@ -28,7 +40,18 @@ std::vector<Scene> UpdateScenes() {
         "box <UpdateTitle>: <UpdateText1> Skidrun2 Utility Pack.\r\n"
         "<CurrentVersion>: 1.0.0\r\n<VersionAvailable>: 1\r\n<UpdateText2>",
         "box <ErrorUpdatingTitle>: <ErrorUpdatingText1> Skidrun2 Utility Pack. "
-        "<ErrorUpdatingText2>"}},
+        "<ErrorUpdatingText2>",
+        "box <UpdateTitle>: <UpdateText1> Skidrun2 Utility Pack.\r\n"
+        "<CurrentVersion>: 1.0.0\r\n<VersionAvailable>: 1\r\n<UpdateText2>",
+        "box <ErrorUpdatingTitle>: <ErrorUpdatingText1> Skidrun2 Utility Pack. "
+        "<UpdateSignatureMissing>",
+        "box <UpdateTitle>: <UpdateText1> Skidrun2 Utility Pack.\r\n"
+        "<CurrentVersion>: 1.0.0\r\n<VersionAvailable>: 1\r\n<UpdateText2>",
+        "box <ErrorUpdatingTitle>: <ErrorUpdatingText1> Skidrun2 Utility Pack. "
+        "<UpdateSignatureWrong>",
+        "box <UpdateTitle>: <UpdateText1> Skidrun2 Utility Pack.\r\n"
+        "<CurrentVersion>: 1.0.0\r\n<VersionAvailable>: 1\r\n<UpdateText2>",
+        "box <RTETitle>: <RTEDeviceError>\r\n<CheckingSignature>: <RTESystemError> 3221225485"}},
 
       {"the option to look for updates at the start",
        [](Player& player) {

@@ -104,7 +104,8 @@ int FlagsOf(OpenFile::How how) {
   constexpr int Always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
   switch (how) {
     case How::ToRead:
-    case How::ToGlance: return Always | O_RDONLY;
+    case How::ToGlance:
+    case How::ToGuard: return Always | O_RDONLY;
     case How::ToAppend:
     case How::ToRewrite:
     case How::ToRewriteShared: return Always | O_RDWR;

@@ -57,6 +57,7 @@ Opening OpeningFor(OpenFile::How how) {
     case How::ToRead: return {.reads = true, .letsRead = true, .letsWrite = true};
     case How::ToGlance:
       return {.reads = true, .letsRead = true, .letsWrite = true, .letsDelete = true};
+    case How::ToGuard: return {.reads = true, .letsRead = true};
     case How::ToAppend: return {.writes = true, .letsRead = true};
     case How::ToRewriteShared:
       return {.reads = true, .writes = true, .letsRead = true, .letsWrite = true};
@@ -105,7 +106,7 @@ OpenFile& OpenFile::operator=(OpenFile&&) noexcept = default;
 
 SystemError OpenFile::Open(const std::string& path, How how) {
   state_ = nullptr;
-  const bool isRead = how == How::ToRead || how == How::ToGlance;
+  const bool isRead = how == How::ToRead || how == How::ToGlance || how == How::ToGuard;
   const char* call = isRead ? "Open" : how == How::New ? "Make" : "OpenToWrite";
   if (const auto refused = Refusal(call, path, SystemError::AccessDenied)) return *refused;
   DiskEntry* file = TheDisk().Find(path);

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "base/PerRun.h"
+#include "platform/Resources.h"
 
 namespace Simulated {
 
@@ -21,6 +22,8 @@ Machine& TheMachine() {
 Machine::Machine() {
   if (theMachine) Complain("there is a machine already");
   theMachine = this;
+  // A program that was built without a key for updates says so.
+  executable.resources = {{Platform::DataResource, "UPDATEKEY", "none"}};
   files.PutFolder("C:");
   files.PutFolder(executable.folder);
   files.PutFolder(Disk::TemporaryFolder);

@@ -57,6 +57,7 @@ Terms TermsOf(OpenFile::How how) {
   switch (how) {
     case How::ToRead: return {GENERIC_READ, ShareBoth, OPEN_EXISTING};
     case How::ToGlance: return {GENERIC_READ, ShareBoth | FILE_SHARE_DELETE, OPEN_EXISTING};
+    case How::ToGuard: return {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING};
     case How::ToAppend: return {GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS};
     case How::ToRewrite: return {ReadWrite, FILE_SHARE_READ, OPEN_EXISTING};
     case How::ToRewriteShared: return {ReadWrite, ShareBoth, OPEN_EXISTING};
@@ -80,7 +81,7 @@ OpenFile& OpenFile::operator=(OpenFile&&) noexcept = default;
 SystemError OpenFile::Open(const std::string& path, How how) {
   state_ = nullptr;
   const Terms terms = TermsOf(how);
-  const bool isRead = how == How::ToRead || how == How::ToGlance;
+  const bool isRead = how == How::ToRead || how == How::ToGlance || how == How::ToGuard;
   const DWORD flags = isRead ? FILE_FLAG_SEQUENTIAL_SCAN : FILE_ATTRIBUTE_NORMAL;
   Handle handle(CreateFileA(path.c_str(), terms.access, terms.sharing, nullptr, terms.disposition,
                             flags, nullptr));

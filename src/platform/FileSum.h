@@ -13,5 +13,5 @@ struct FileSum {
 
 FileSum SumOfText(std::string_view bytes);
 
-// Reads the file in a fixed amount of memory. Fails as Platform::FileReader does.
+// Reads the file in a fixed amount of memory; a long step. Fails as Platform::FileReader does.
 FileSum SumOfFile(const std::string& path);

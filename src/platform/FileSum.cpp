@@ -1,9 +1,10 @@
-#include "tools/FileSum.h"
+#include "platform/FileSum.h"
 
 #include <vector>
 
 #include "base/Sha256.h"
 #include "platform/Files.h"
+#include "platform/LongStep.h"
 
 FileSum SumOfText(std::string_view bytes) {
   Sha256 sum;
@@ -13,6 +14,7 @@ FileSum SumOfText(std::string_view bytes) {
 
 FileSum SumOfFile(const std::string& path) {
   constexpr size_t BlockSize = size_t{1} << 16;
+  const Platform::LongStep step;
   Platform::FileReader file(path);
   std::vector<char> block(BlockSize);
   Sha256 sum;
@@ -20,6 +22,7 @@ FileSum SumOfFile(const std::string& path) {
   while (const size_t count = file.Read(block.data(), block.size())) {
     sum.Add({block.data(), count});
     size += count;
+    step.AnswerOthers();
   }
   return {size, sum.Hex()};
 }
