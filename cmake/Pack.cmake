@@ -26,7 +26,7 @@ endfunction()
 
 file(GLOB languages CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/languages/*.lng)
 sk2_pack(sk2pack ${PROJECT_VERSION} "Skidrun2 Utility Pack")
-set_target_properties(sk2pack PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/pack)
+set_target_properties(sk2pack PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/pack LINK_DEPENDS "${languages}")
 add_custom_command(TARGET sk2pack POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_BINARY_DIR}/pack/languages
   COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/pack/languages
