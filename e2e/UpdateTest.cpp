@@ -1,4 +1,7 @@
 // The check for updates against a server of the tests' own, and the update that it leads to.
+#include <filesystem>
+
+#include "e2e/driver/ConsoleProgram.h"
 #include "e2e/driver/Keyboard.h"
 #include "e2e/driver/PackTest.h"
 #include "e2e/driver/Setup.h"
@@ -215,7 +218,18 @@ class InstalledUpdate : public Update {
 };
 
 TEST_F(InstalledUpdate, EndsInTheNextVersionWithTheUsersSettings) {
-  server.Serve(Installer, ReadFile(NextInstaller()));
+  // As the maker publishes it.
+  const std::string software = scratch.path() + "\\Offer\\software";
+  std::filesystem::create_directories(software);
+  WriteFile(software + "\\versions.txt", "sk2up=" + ShortVersionOf(NextInstaller()) + "\r\n");
+  WriteFile(software + "\\sk2up.exe", ReadFile(NextInstaller()));
+  const std::string site = scratch.path() + "\\Site";
+  const ConsoleOutcome published = RunTool("sk2publish", {scratch.path() + "\\Offer", site});
+  ASSERT_EQ(published.status, 0U) << published.said;
+  const std::string served = site + "\\current\\orvane\\software\\";
+  server.Serve(Records, ReadFile(served + "versions.dat"));
+  server.Serve(Installer, ReadFile(served + "sk2up.exe"));
+
   TakeTheUpdate();
   EXPECT_EQ(pack_->program().WaitForEnd(), 0U);
   pack_ = std::make_unique<Pack>(RunningProgram::StartedByOthers{program()});
