@@ -36,7 +36,8 @@ int main(int count, char** arguments) {
                          TakeOption(argument, "pictures", given.pictures) ||
                          TakeOption(argument, "speakers", given.speakers) ||
                          TakeOption(argument, "web", given.web) ||
-                         TakeOption(argument, "archives", given.archives);
+                         TakeOption(argument, "archives", given.archives) ||
+                         TakeOption(argument, "installer", given.installer);
     if (!isKnown) {
       std::fprintf(stderr, "unknown option %s\n", arguments[i]);
       return 2;
@@ -46,9 +47,12 @@ int main(int count, char** arguments) {
       given.pictures.empty()) {
     std::fprintf(stderr,
                  "usage: e2e-tests --pack=FOLDER --versions=FOLDER --demo=FOLDER "
-                 "--pictures=FOLDER [--speakers=FILE] [--web=FOLDER] [--archives=FOLDER]\n");
+                 "--pictures=FOLDER [--speakers=FILE] [--web=FOLDER] [--archives=FOLDER] "
+                 "[--installer=FILE]\n");
     return 2;
   }
+  // Where the build puts it.
+  if (given.installer.empty()) given.installer = given.pack + "\\..\\sk2up.exe";
   std::filesystem::create_directories(given.pictures);
   return RUN_ALL_TESTS();
 }
