@@ -26,8 +26,7 @@ std::string ClassOf(const Platform::Form& form) {
 }
 
 char KeyOf(const std::string& caption) {
-  return static_cast<char>(
-      std::toupper(static_cast<unsigned char>(Platform::AccessKey(caption))));
+  return static_cast<char>(std::toupper(static_cast<unsigned char>(Platform::AccessKey(caption))));
 }
 
 ShownControl Shown(const Control& control) {

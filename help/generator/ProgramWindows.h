@@ -19,9 +19,9 @@ struct OwnKey {
 
 // What the help says of a window, and how the window is opened.
 struct WindowTopic {
-  std::string form;     // its class, which is also where it stands on the page of windows
+  std::string form;          // its class, which is also where it stands on the page of windows
   std::string heading = {};  // empty: its title
-  std::string page;     // tells all about it
+  std::string page;          // tells all about it
   std::string purpose;
   std::function<void(Simulated::Machine&, const std::function<void()>& look)> open;
   // The rows of its lists are the same for everybody, and are told.

@@ -39,8 +39,8 @@ std::vector<std::string> KeywordsOf(const std::string& page) {
 }
 
 std::string Sitemap(const std::string& name, const std::string& target) {
-  return "<li><object type=\"text/sitemap\">\n<param name=\"Name\" value=\"" + name +
-         "\">\n" + (target.empty() ? "" : "<param name=\"Local\" value=\"" + target + "\">\n") +
+  return "<li><object type=\"text/sitemap\">\n<param name=\"Name\" value=\"" + name + "\">\n" +
+         (target.empty() ? "" : "<param name=\"Local\" value=\"" + target + "\">\n") +
          "</object>\n";
 }
 
@@ -56,9 +56,8 @@ std::string ContentsFile(const Pages& pages) {
     for (const std::string& page : chapter.pages) {
       items += Sitemap(TitleOf(page, pages.at(page)), page);
     }
-    entries += chapter.title.empty()
-                   ? items
-                   : Sitemap(chapter.title, "") + "<ul>\n" + items + "</ul>\n";
+    entries +=
+        chapter.title.empty() ? items : Sitemap(chapter.title, "") + "<ul>\n" + items + "</ul>\n";
   }
   return SitemapFile(entries);
 }
@@ -139,7 +138,8 @@ const std::vector<Chapter>& Chapters() {
       {"The pack and its keys",
        {"installing.html", "main-window.html", "menus.html", "windows.html", "keyboard.html"}},
       {"Vehicles",
-       {"vehicle-editor.html", "internal-sounds.html", "check-vehicle.html", "vehicle-format.html"}},
+       {"vehicle-editor.html", "internal-sounds.html", "check-vehicle.html",
+        "vehicle-format.html"}},
       {"Tracks",
        {"track-editor.html", "random-track.html", "check-track.html", "track-format.html"}},
       {"Packages", {"packaging.html", "recording.html"}},

@@ -44,11 +44,6 @@ std::string Table(const std::string& caption, const std::vector<Row>& rows) {
   return html + "</table>\n";
 }
 
-std::string Sentence(std::string text) {
-  text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
-  return Escaped(text) + ".";
-}
-
 // The name under which an item of a menu is linked to: "vehicle-check-vhc-file".
 std::string AnchorOf(const std::string& path) {
   std::string anchor;
@@ -85,23 +80,27 @@ std::string MenusPage(const std::vector<ShownItem>& items, const Titles& titles)
       "<p>This is the whole menu bar of the main window. Alt or F10 leads to it, the arrow keys "
       "lead through it, and Enter chooses. " +
       Link("keyboard.html", "Every key of the pack") + " tells the shorter ways.</p>\n";
-  bool isListOpen = false;
+  size_t depth = 0;  // of the lists that are open: an item of a menu of the bar is 1 deep
   for (const ShownItem& item : items) {
+    for (; depth >= item.accessKeys.size(); --depth)
+      body += depth > 1 ? "</ul>\n</li>\n" : "</ul>\n";
     if (item.isMenu) {
-      if (isListOpen) body += "</ul>\n";
       const bool isInBar = item.accessKeys.size() == 1;
-      const std::string level = isInBar ? "h2" : "h3";
-      body += "<" + level + " id=\"" + AnchorOf(item.path) + "\">The " +
-              (isInBar ? "menu " : "submenu ") + item.caption + "</" + level + ">\n<ul>\n";
-      isListOpen = true;
+      body += isInBar
+                  ? "<h2 id=\"" + AnchorOf(item.path) + "\">The menu " + item.caption + "</h2>\n"
+                  : "<li id=\"" + AnchorOf(item.path) + "\">" + Bold(item.caption) +
+                        " has items of its own:\n";
+      body += "<ul>\n";
+      ++depth;
       continue;
     }
     const MenuTopic& topic = TopicOf(item);
     body += "<li id=\"" + AnchorOf(item.path) + "\">" + Bold(item.caption) +
-            (item.shortcut.empty() ? "" : " (" + item.shortcut + ")") + ": " +
-            Escaped(topic.what) + ". See " + Link(topic.page, titles.at(topic.page)) + ".</li>\n";
+            (item.shortcut.empty() ? "" : " (" + item.shortcut + ")") + ": " + Escaped(topic.what) +
+            ". See " + Link(topic.page, titles.at(topic.page)) + ".</li>\n";
   }
-  return Page("The menus, item by item", "menu bar; menus", body + "</ul>\n");
+  for (; depth > 0; --depth) body += depth > 1 ? "</ul>\n</li>\n" : "</ul>\n";
+  return Page("The menus, item by item", "menu bar; menus", body);
 }
 
 std::string HeadingOf(const WindowTopic& topic, const ShownWindow& window) {
@@ -157,10 +156,9 @@ std::string WindowsPage(const std::vector<OpenedWindow>& windows, const Titles& 
       "Windows itself.</p>\n";
   for (const auto& [topic, window] : windows) {
     body += "<h2 id=\"" + topic.form + "\">" + Escaped(HeadingOf(topic, window)) + "</h2>\n<p>";
-    const bool isTitle = topic.heading.empty();
-    body += isTitle ? "The window " + Bold(window.title) + " " : "";
-    body += (isTitle ? Escaped(topic.purpose) + "." : Sentence(topic.purpose));
-    body += " See " + Link(topic.page, titles.at(topic.page)) + ".</p>\n";
+    body += topic.heading.empty() ? "The window " + Bold(window.title) : "This window";
+    body += " " + Escaped(topic.purpose) + ". See " + Link(topic.page, titles.at(topic.page)) +
+            ".</p>\n";
     std::vector<Row> rows{{"Name", "What it is", "Keys"}};
     for (const ShownControl& control : window.controls) {
       // Of a question only the kind of its field is always the same.
@@ -169,10 +167,14 @@ std::string WindowsPage(const std::vector<OpenedWindow>& windows, const Titles& 
                       KindOf(control) + (topic.hasFixedRows ? RowsOf(control) : ""),
                       KeysOf(control)});
     }
+    const std::string heading = HeadingOf(topic, window);
+    if (rows.size() > 1) body += Table("What is in it: " + heading, rows);
+    if (topic.ownKeys.empty()) continue;
+    body += "<p>It has keys besides:</p>\n<ul>\n";
     for (const OwnKey& key : topic.ownKeys) {
-      rows.push_back({"", Escaped(key.what), Escaped(key.keys)});
+      body += "<li>" + Escaped(key.keys + ": " + key.what) + "</li>\n";
     }
-    if (rows.size() > 1) body += Table("What is in it", rows);
+    body += "</ul>\n";
   }
   return Page("The windows, one by one", "windows; fields; buttons; lists", body);
 }
@@ -200,9 +202,10 @@ std::string KeyboardPage(const std::vector<ShownItem>& items,
     rows.push_back({Escaped(item.path), KeysOf(item),
                     item.shortcut == "Alt+F4" ? "Alt+F4" : Escaped(item.shortcut)});
   }
-  body += "<h2>Keys of the menus</h2>\n<p>The shortcuts of vehicles and of tracks are the same: "
-          "they ask which of the two you mean.</p>\n" +
-          Table("Keys of the menus", rows) + "<h2>Keys of each window</h2>\n";
+  body +=
+      "<h2>Keys of the menus</h2>\n<p>The shortcuts of vehicles and of tracks are the same: "
+      "they ask which of the two you mean.</p>\n" +
+      Table("Keys of the menus", rows) + "<h2>Keys of each window</h2>\n";
   for (const auto& [topic, window] : windows) {
     std::vector<Row> keys{{"Key", "What it does"}};
     for (const OwnKey& key : topic.ownKeys) keys.push_back({key.keys, Escaped(key.what)});
@@ -215,7 +218,7 @@ std::string KeyboardPage(const std::vector<ShownItem>& items,
     }
     if (keys.size() == 1) continue;
     body += "<h3>" + Link("windows.html#" + topic.form, HeadingOf(topic, window)) + "</h3>\n" +
-            Table("Keys of this window", keys);
+            Table("Keys of this window: " + HeadingOf(topic, window), keys);
   }
   return Page("Every key of the pack", "keys; keyboard; shortcuts; access keys", body);
 }

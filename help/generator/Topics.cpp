@@ -124,9 +124,9 @@ const std::vector<WindowTopic>& WindowTopics() {
            },
        .hasFixedRows = true},
       {.form = "InputBoxForm",
-       .heading = "Questions that are answered by typing",
+       .heading = "The window of a question that is answered by typing",
        .page = "vehicle-editor.html",
-       .purpose = "come with a title and a prompt that name what is asked for, such as the number "
+       .purpose = "has a title and a prompt that name what is asked for, such as the number "
                   "of parts of a random track, a number of a vehicle, or the name of a server",
        .open =
            [](Machine& machine, const Look& look) {
