@@ -22,6 +22,7 @@ build_suite fuzz
 build_suite bench
 in_background fuzz_suites out/fuzz/fuzz
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
+check_suite "what is delivered" python3 scripts/check-delivery.py out/windows
 wait_for_background
 bench_suites out/bench/bench
 

@@ -28,7 +28,9 @@ sk2_pack(sk2pack ${PROJECT_VERSION} "Skidrun2 Utility Pack")
 set_target_properties(sk2pack PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/pack)
 add_custom_command(TARGET sk2pack POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/languages/template.lng ${CMAKE_BINARY_DIR}/pack/languages/template.lng
-  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_BINARY_DIR}/pack/LICENSE.txt)
+  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_BINARY_DIR}/pack/LICENSE.txt
+  # Of what others have written in it.
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/licences ${CMAKE_BINARY_DIR}/pack/licences)
 
 add_dependencies(sk2pack orec)
 

@@ -49,7 +49,7 @@ const std::vector<SourceFile>& AllFiles() {
   static const std::vector<SourceFile> files = [] {
     std::vector<SourceFile> all;
     for (const char* folder :
-         {"src", "tests", "e2e", "bench", "fuzz", "languages", "resources", "orec"}) {
+         {"src", "tests", "e2e", "bench", "fuzz", "help", "languages", "resources", "orec"}) {
       if (!fs::exists(ProjectFile::Root / folder)) continue;
       for (const auto& entry : fs::recursive_directory_iterator(ProjectFile::Root / folder)) {
         const std::string extension = entry.path().extension().string();
