@@ -1,0 +1,47 @@
+; What a failed installation leaves: a log in the program folder, or in the folder of temporary files
+; where the program folder takes none. One that went well leaves none.
+
+Var LogPath
+Var LogLine
+
+!define Log "!insertmacro Log"
+!macro Log TEXT
+  StrCpy $LogLine "${TEXT}"
+  Call Log
+!macroend
+
+; The details on the progress page say the same.
+Function Log
+  DetailPrint "$LogLine"
+  Push $0
+  FileOpen $0 "$LogPath" a
+  FileSeek $0 0 END
+  FileWriteUTF16LE /BOM $0 "$LogLine$\r$\n"
+  FileClose $0
+  Pop $0
+FunctionEnd
+
+Function OpenLog
+  CreateDirectory "$INSTDIR"
+  StrCpy $LogPath "$INSTDIR\${LOG_NAME}"
+  ClearErrors
+  FileOpen $0 "$LogPath" w
+  ${If} ${Errors}
+    StrCpy $LogPath "$TEMP\${LOG_NAME}"
+    FileOpen $0 "$LogPath" w
+  ${EndIf}
+  FileClose $0
+  ${GetTime} "" "L" $0 $1 $2 $3 $4 $5 $6
+  ${Log} "$2-$1-$0 $4:$5 ${PRODUCT} ${VERSION} to $INSTDIR"
+FunctionEnd
+
+Function CloseLog
+  Delete "$LogPath"
+FunctionEnd
+
+; Says what went wrong, where boxes are wanted.
+Function TellFailure
+  ${If} $HasBoxes = 1
+    MessageBox MB_OK|MB_ICONSTOP "$Failure" /SD IDOK
+  ${EndIf}
+FunctionEnd
