@@ -29,6 +29,7 @@ trap 'exit 143' TERM
 
 install_packages "${pack_packages[@]}"
 build windows sk2pack windowpicture
+build tools sk2publish
 enter_machine out/run
 
 start_virtual_sound() {

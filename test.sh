@@ -18,6 +18,7 @@ install_packages "${pack_packages[@]}" "${test_packages[@]}" "${sound_packages[@
 begin_suites
 build_suite host sk2tests
 build_suite windows
+build_suite tools
 build_suite fuzz
 build_suite bench
 in_background fuzz_suites out/fuzz/fuzz

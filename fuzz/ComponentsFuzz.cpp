@@ -3,6 +3,7 @@
 #include <string>
 
 #include "fuzz/Require.h"
+#include "internet/ComponentPlaces.h"
 #include "internet/ComponentRecords.h"
 #include "internet/Components.h"
 #include "machine/simulated/Machine.h"
@@ -22,8 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::string fileName = ComponentRecords::FileNameOf(lines.text, name);
     Require(lines.text.find(":" + fileName) != std::string::npos || fileName.empty());
     while (fileName.ends_with('\r')) fileName.pop_back();
-    for (int kind = 0; kind < Components::Count; ++kind) {
-      if (!Components::IsInstallable(kind, fileName)) continue;
+    for (int kind = 0; kind < ComponentPlaces::Count; ++kind) {
+      if (!ComponentPlaces::IsInstallable(kind, fileName)) continue;
       const std::string folder = Components::TargetFolderOf(kind, fileName);
       Require(folder.starts_with(game + "\\"));
       Require(folder.find("..\\") == std::string::npos && !folder.ends_with('.'));

@@ -1,6 +1,8 @@
 # A Windows machine to run the pack on: Wine with a display, sound and a web of its own. All that is
 # started here ends with leave_machine. Sourced, not run; the current folder is the project's.
 
+. server/configuration.sh
+
 machine_processes=()
 machine_folder=
 
@@ -121,23 +123,21 @@ record_speakers() {
   wait_until "the recorder" test -s "$machine_folder/speakers.raw"
 }
 
-is_port_free() {
-  ! (exec 3<>"/dev/tcp/127.0.0.1/$1") 2>/dev/null
-}
-
-# start_web [INSTALLER]: serves the maker's web site, made anew, on a port of its own, whose number is
-# then in web_port. What is put into FOLDER/web/HOST, under the path of its address, is served in
-# place of it.
+# start_web [INSTALLER]: publishes the demo's add-ons anew and serves them on a port of its own, whose
+# number is then in web_port. What is put into FOLDER/web/HOST, under the path of its address, is
+# served in place of it. The program that publishes must have been built.
 #   INSTALLER  what is offered as the pack's next release.
 start_web() {
-  local port user= root=$machine_folder/nginx
+  local port root=$machine_folder/nginx
   mkdir -p "$machine_folder/web" "$root"
-  python3 server/make-site.py "$root" "$@" || return 1
-  [ "$(id -u)" != 0 ] || user="user root;"
+  python3 server/make-offer.py "$root" "$@" || return 1
+  out/tools/sk2publish "$root/offer" "$root/site" || return 1
+  write_server_configuration "$root"
+  write_overlay "$machine_folder/web" >"$root/before.conf"
   for port in $(shuf -i 20000-30000 -n 20); do
     is_port_free "$port" || continue
-    sed "s|@USER@|$user|; s|@ROOT@|$root|g; s|@WEB@|$machine_folder/web|g; s|@PORT@|$port|g" \
-      server/nginx.conf.in >"$root/nginx.conf"
+    site_configuration "127.0.0.1:$port" "$root/site/current" '' '' \
+      "include \"$root/before.conf\";" >"$root/site.conf"
     rm -f "$root/nginx.pid"
     start web nginx -p "$root" -c "$root/nginx.conf" -g 'daemon off;'
     # Written once the port is its own: another machine's server may have come first.
@@ -147,6 +147,23 @@ start_web() {
     fi
   done
   return 1
+}
+
+# write_overlay FOLDER: the directives by which a file in FOLDER/HOST comes before what the host has.
+write_overlay() {
+  cat <<END
+recursive_error_pages on;
+error_page 418 = @overlay;
+location @overlay {
+  root "$1/\$host";
+}
+if (-f "$1/\$host\${uri}index.html") {
+  rewrite ^ \${uri}index.html;
+}
+if (-f "$1/\$host\$uri") {
+  return 418;
+}
+END
 }
 
 # start_windows: makes the Wine prefix if there is none yet.

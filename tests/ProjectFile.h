@@ -13,7 +13,7 @@ namespace ProjectFile {
 inline const std::filesystem::path Root = ProjectFolder;
 // Where the build has put the sounds of the vehicles.
 inline const std::filesystem::path Sounds = SoundsFolder;
-// The same for what server/make-site.py makes.
+// The same for what server/make-offer.py makes.
 inline const std::filesystem::path Website = WebsiteFolder;
 
 // All bytes of a file; empty if there is none.

@@ -6,10 +6,9 @@
 #include <vector>
 
 #include "archive/Directory.h"
-#include "archive/EntryReader.h"
-#include "archive/Names.h"
-#include "archive/Refusal.h"
+#include "archive/Plan.h"
 #include "archive/Times.h"
+#include "base/RuntimeError.h"
 #include "platform/Files.h"
 #include "platform/LetterCase.h"
 #include "platform/Paths.h"
@@ -21,67 +20,8 @@ namespace {
 using Platform::IfThere;
 using Platform::LongStep;
 
-// The system keeps room for a short file name below each folder.
-constexpr size_t LongestFolder = 247;
-
-struct PlannedFile {
-  const Entry* entry;
-  std::string path;
-  bool isThere = false;  // and is replaced
-};
-
-// What is to stand on the disk, by the names as the disk compares them.
-struct Plan {
-  std::string target;
-  std::map<std::string, std::string> folders;  // each after the one that holds it
-  std::map<std::string, PlannedFile> files;
-};
-
 [[noreturn]] void FailAt(const std::string& path) {
   throw RuntimeError(RuntimeError::PathFileAccess, path);
-}
-
-void RequireLength(const std::string& path, size_t most) {
-  if (path.size() <= most) return;
-  throw RuntimeError(RuntimeError::PathFileAccess, RuntimeErrorTexts.NameNotUsable, path);
-}
-
-// A folder, and those that hold it, down to the target.
-void PlanFolder(const std::string& path, Plan& plan) {
-  if (path.size() <= plan.target.size()) return;
-  RequireLength(path, LongestFolder);
-  if (!plan.folders.emplace(Platform::LowerCase(path), path).second) return;
-  PlanFolder(Platform::FolderOf(path), plan);
-}
-
-Plan PlanAll(const Directory& directory, const std::string& archive, const std::string& target,
-             const LongStep& step) {
-  Plan plan;
-  plan.target = target;
-  const auto refuseTwice = [&](const Entry& entry) {
-    Refuse(ArchiveTexts.ArchiveNameTwice, archive, ShownName(entry));
-  };
-  for (const Entry& entry : directory.entries()) {
-    step.AnswerOthers();
-    const EntryPath found = PathOf(entry, archive);
-    if (found.isFolder && entry.size > 0) {
-      Refuse(ArchiveTexts.ArchiveDamaged, archive, ShownName(entry));
-    }
-    const std::string path = found.path.empty() ? target : target + "\\" + found.path;
-    if (found.isFolder) {
-      PlanFolder(path, plan);
-      continue;
-    }
-    Platform::CheckName(path);
-    PlanFolder(Platform::FolderOf(path), plan);
-    if (!plan.files.emplace(Platform::LowerCase(path), PlannedFile{&entry, path}).second) {
-      refuseTwice(entry);
-    }
-  }
-  for (const auto& [key, file] : plan.files) {
-    if (plan.folders.contains(key)) refuseTwice(*file.entry);
-  }
-  return plan;
 }
 
 // The folder itself, or the first that is there of those that hold it.
@@ -122,22 +62,6 @@ void JudgeDisk(Plan& plan, const std::string& archive, const LongStep& step) {
     freed += stamp->size;
   }
   RequireRoom(plan, mostNeeded);
-}
-
-// Unpacks an entry, handing on its blocks.
-template <class Use>
-void Unpack(ByteSource& source, const Entry& entry, const LongStep& step, const Use& use) {
-  EntryReader reader(source, entry);
-  for (std::string_view block; reader.Next(block);) {
-    use(block);
-    step.AnswerOthers();
-  }
-}
-
-void JudgeContents(ByteSource& source, const Directory& directory, const LongStep& step) {
-  for (const Entry& entry : directory.entries()) {
-    Unpack(source, entry, step, [](std::string_view) {});
-  }
 }
 
 // What was made, to be taken away again if the rest cannot be.

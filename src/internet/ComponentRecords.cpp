@@ -53,4 +53,16 @@ std::string FileNameOf(std::string_view text, std::string_view displayName) {
   return fileName;
 }
 
+bool MayBePart(std::string_view text) {
+  return !text.empty() && text.find_first_of(":\r\n") == std::string_view::npos;
+}
+
+std::string ListOf(const std::vector<Record>& records) {
+  std::string list;
+  for (const Record& record : records) {
+    list += record.displayName + ":" + record.fileName + "\n";
+  }
+  return list;
+}
+
 }  // namespace ComponentRecords

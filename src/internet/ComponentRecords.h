@@ -29,4 +29,18 @@ std::vector<std::string> DisplayNames(std::string_view text);
 // accordingly. A carriage return at the end of a record stays.
 std::string FileNameOf(std::string_view text, std::string_view displayName);
 
+// One add-on of a list that is being made.
+struct Record {
+  std::string displayName;
+  std::string fileName;
+};
+
+// True if a text may stand on either side of a record: not empty, without ":" and line ends.
+bool MayBePart(std::string_view text);
+
+// The text of a list file: the records in their order, each with a line feed behind it. Behind the
+// last one too, or the carriage return that LinesIn puts there would become part of its file name.
+// The parts of all records must be such as MayBePart has them.
+std::string ListOf(const std::vector<Record>& records);
+
 }  // namespace ComponentRecords

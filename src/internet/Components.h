@@ -1,21 +1,12 @@
-// The kinds of add-ons that the maker's server has, and where those of each kind lie, there and in
-// the game.
+// What the pack says of each kind of add-ons, and where those of a kind lie, on the maker's server
+// and in the game. In all of it the kind must be one (ComponentPlaces.h).
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "internet/InternetTexts.h"
 
 namespace Components {
-
-// Counted from 0, as the rows of the list in which the user chooses one: Car, Track, Language.
-inline constexpr int Count = 3;
-inline bool IsKind(int kind) {
-  return kind >= 0 && kind < Count;
-}
-
-// In all that follows the kind must be one.
 
 // The kind's name, the same in every language.
 const LangText& NameOf(int kind);
@@ -28,11 +19,6 @@ const LangText& ListErrorTitleOf(int kind);
 std::string ListUrlOf(int kind);
 // The address of the archive of that file name.
 std::string ArchiveUrlOf(int kind, const std::string& fileName);
-
-// True if an archive of that name may be installed: a plain file name that leaves something before
-// its last four characters, meant to be ".zip", and for a language a name of a folder. Names come
-// from a list on the web and are never trusted as paths.
-bool IsInstallable(int kind, std::string_view fileName);
 
 // The folder into which the archive is unpacked; it need not be there yet. A language gets one of
 // its own, named as its archive. Fails as Application::GameFolder does.

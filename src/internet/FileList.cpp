@@ -4,6 +4,7 @@
 
 #include "archive/Extraction.h"
 #include "base/PerRun.h"
+#include "internet/ComponentPlaces.h"
 #include "internet/Components.h"
 #include "internet/Progress.h"
 #include "internet/SK2Downloader.h"
@@ -56,13 +57,13 @@ void FileList::ShowFiles(int kind, std::vector<std::string> displayNames,
 }
 
 void FileList::DownloadComponent(const std::string& fileName, int kind) {
-  if (!Components::IsKind(kind)) {
+  if (!ComponentPlaces::IsKind(kind)) {
     Messages::Show(InternetTexts.InvalidComponentText, InternetTexts.InvalidComponentTitle,
                    Platform::Icon::Critical);
     return Ccl_Click();
   }
   const std::string name = WithoutCarriageReturn(fileName);
-  if (!Components::IsInstallable(kind, name)) {
+  if (!ComponentPlaces::IsInstallable(kind, name)) {
     TellDownloadError(name);
     return BackToComponents();
   }

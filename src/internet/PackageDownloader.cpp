@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/PerRun.h"
+#include "internet/ComponentPlaces.h"
 #include "internet/ComponentRecords.h"
 #include "internet/Components.h"
 #include "internet/ConnectionCheck.h"
@@ -37,15 +38,15 @@ void PackageDownloader::ShowComponentFiles(int kind) {
 
 void PackageDownloader::Form_Load() {
   std::vector<std::string> kinds;
-  kinds.reserve(Components::Count);
-  for (int kind = 0; kind < Components::Count; ++kind) {
+  kinds.reserve(ComponentPlaces::Count);
+  for (int kind = 0; kind < ComponentPlaces::Count; ++kind) {
     kinds.push_back(GetLangString(Components::NameOf(kind)));
   }
   Selection.SetRows(std::move(kinds), 0);
 }
 
 void PackageDownloader::Submit_Click() {
-  if (Components::IsKind(Selection.selected())) ShowComponentFiles(Selection.selected());
+  if (ComponentPlaces::IsKind(Selection.selected())) ShowComponentFiles(Selection.selected());
 }
 
 void PackageDownloader::Ccl_Click() {

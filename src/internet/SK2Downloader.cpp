@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "base/SharedTexts.h"
+#include "internet/ComponentPlaces.h"
 #include "internet/ComponentRecords.h"
 #include "internet/Components.h"
 #include "internet/Internet.h"
@@ -62,7 +63,7 @@ std::optional<std::string> FetchComponentList(int kind) {
 }
 
 std::optional<std::string> FindComponentFileName(const std::string& displayName, int kind) {
-  for (int each = std::max(kind, 0); each < Components::Count; ++each) {
+  for (int each = std::max(kind, 0); each < ComponentPlaces::Count; ++each) {
     const std::optional<std::string> records = FetchComponentList(each);
     if (!records) return std::nullopt;
     // Anywhere in the list, file names included: only a name of which there is no trace is looked

@@ -1,5 +1,7 @@
 #include "platform/FileLines.h"
 
+#include <utility>
+
 #include "base/ShortLine.h"
 
 namespace Platform {
@@ -7,7 +9,13 @@ namespace Platform {
 FileLines::FileLines(const std::string& path)
     : file_(path), lines_([this](char* buffer, size_t size) {
         step_.AnswerOthers();
-        return file_.Read(buffer, size);
+        return file_->Read(buffer, size);
+      }) {}
+
+FileLines::FileLines(LineReader::Source source)
+    : lines_([this, source = std::move(source)](char* buffer, size_t size) {
+        step_.AnswerOthers();
+        return source(buffer, size);
       }) {}
 
 // The line that begins so, shortened.

@@ -1,7 +1,9 @@
-// The lines of a file of the game, which may be too large to be held in memory. Reading them is a
-// long step, which lives as long as this object: other programs are answered between its blocks.
+// The lines of a file of the game, which may be too large to be held in memory, on the disk or in
+// an archive. Reading them is a long step, which lives as long as this object: other programs are
+// answered between its blocks.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +17,8 @@ class FileLines {
  public:
   // Fails as FileReader does.
   explicit FileLines(const std::string& path);
+  // The lines of what a source gives; they fail with whatever that fails with.
+  explicit FileLines(LineReader::Source source);
   FileLines(const FileLines&) = delete;
   FileLines& operator=(const FileLines&) = delete;
 
@@ -32,7 +36,7 @@ class FileLines {
   std::string_view Shortened(std::string_view beginning);
 
   LongStep step_;
-  FileReader file_;
+  std::optional<FileReader> file_;
   LineReader lines_;
   std::string shortened_;
 };

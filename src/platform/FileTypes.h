@@ -26,6 +26,9 @@ struct FileAttributes {
 struct FolderEntry {
   std::string name;
   bool isFolder = false;
+  // It only leads to a file or folder elsewhere, so that a walk through folders may come round to
+  // where it was.
+  bool isLink = false;
 };
 
 // What is done where a name is taken already.

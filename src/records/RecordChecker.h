@@ -4,6 +4,22 @@
 #include <cstdint>
 #include <string>
 
+#include "base/Fault.h"
+
+namespace Platform {
+class FileLines;
+}
+
+// What the checker finds.
+namespace RecordFault {
+inline constexpr int32_t InvalidFormat = 1;  // not exactly one "="
+inline constexpr int32_t InvalidValue = 2;   // no number behind it
+}  // namespace RecordFault
+
+// Tells each fault of a record file, line by line, in bounded memory, until the taker wants no
+// more. Fails as reading the lines does.
+void FindRecordFaults(Platform::FileLines& lines, const FaultTaker& take);
+
 // What CheckRecordFile returns when there are no lines to check.
 inline constexpr int64_t MissingRecordFile = -1;
 inline constexpr int64_t UnreadableRecordFile = -2;

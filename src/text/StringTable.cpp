@@ -13,9 +13,6 @@
 
 namespace {
 
-// Hundreds of times the size of any translation.
-constexpr uint64_t LargestFile = 8 << 20;
-
 // The lines of the language file as they were at the last look.
 class LanguageFile {
  public:
@@ -26,21 +23,22 @@ class LanguageFile {
   // Fails as Platform::AppendToFile does.
   void Append(const std::string& entry);
 
+  // See SpeakOnlyFrom.
+  void ReadOnlyFrom(const std::string& path) {
+    path_ = path;
+    isKnown_ = false;
+    isOnlyRead_ = true;
+  }
+  bool isOnlyRead() const { return isOnlyRead_; }
+
  private:
   std::string path_ = Platform::PathBesideProgram(".lng");
+  bool isOnlyRead_ = false;
   bool isKnown_ = false;                      // the rest is what the file holds
   std::optional<Platform::FileStamp> stamp_;  // nothing while there is no file
   std::vector<std::string> lines_;
   bool endsInOpenLine_ = false;  // the last line lacks its line end
 };
-
-// What counts of a line where ";" starts a comment. Lines without one stay as they are, blanks
-// included.
-std::string_view WithoutComment(std::string_view line) {
-  const size_t comment = line.find(';');
-  if (comment == std::string_view::npos) return line;
-  return Text::Trim(line.substr(0, comment));
-}
 
 // One spelling after the other, over the whole text. Any further ones stay as they are.
 std::string WithSemicolons(std::string text) {
@@ -58,7 +56,7 @@ bool LanguageFile::Refresh() {
   isKnown_ = false;
   lines_.clear();
   endsInOpenLine_ = false;
-  if (stamp && stamp->size > LargestFile) return false;
+  if (stamp && stamp->size > LargestLanguageFile) return false;
   const std::optional<std::string> bytes = Platform::ReadWholeFile(path_);
   if (bytes && !bytes->empty()) {
     // Translators' editors end lines in CR LF, CR or LF; the empty lines that this makes of CR LF
@@ -83,7 +81,7 @@ bool LanguageFile::Refresh() {
 std::optional<std::string> LanguageFile::Find(const std::string& key, int flag) const {
   std::optional<std::string> found;
   for (const std::string& whole : lines_) {
-    const std::string_view line = flag == WithComments ? WithoutComment(whole) : whole;
+    const std::string_view line = flag == WithComments ? LineWithoutComment(whole) : whole;
     // No end at the first one that is found: translators add lines at the end, and the last counts.
     if (KeyValue::HasKey(line, key)) found = KeyValue::Split(line)->value;
   }
@@ -98,6 +96,12 @@ void LanguageFile::Append(const std::string& entry) {
 
 }  // namespace
 
+std::string_view LineWithoutComment(std::string_view line) {
+  const size_t comment = line.find(';');
+  if (comment == std::string_view::npos) return line;
+  return Text::Trim(line.substr(0, comment));
+}
+
 std::string GetLangString(const std::string& key, const std::string& english, int flag) {
   try {
     auto& file = PerRun<LanguageFile>();
@@ -105,7 +109,7 @@ std::string GetLangString(const std::string& key, const std::string& english, in
     // appending the default would replace the translation, since the last line of a key counts.
     if (!file.Refresh()) return english;
     if (const auto text = file.Find(key, flag)) return WithSemicolons(*text);
-    file.Append(KeyValue::Line(key, english));
+    if (!file.isOnlyRead()) file.Append(KeyValue::Line(key, english));
   } catch (const std::exception&) {
     // A file that cannot be read or written, or too little memory for it, is no reason to stop.
   }
@@ -115,4 +119,8 @@ std::string GetLangString(const std::string& key, const std::string& english, in
 std::string GetLangString(const LangText& text) {
   if (!text.key) return text.english;
   return GetLangString(text.key, text.english, WithComments);
+}
+
+void SpeakOnlyFrom(const std::string& path) {
+  PerRun<LanguageFile>().ReadOnlyFrom(path);
 }

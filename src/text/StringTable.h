@@ -1,8 +1,10 @@
 // The lookup behind every text that the user sees. Translations stand in the language file: the
-// program folder, the executable's name, ".lng".
+// program folder, the executable's name, ".lng"; a console program says itself which one it reads.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/LangText.h"
 
@@ -26,3 +28,14 @@ std::string GetLangString(const std::string& key, const std::string& english, in
 // The text of a table, as all callers look it up. A text without a key is the same in every
 // language and is given as it stands.
 std::string GetLangString(const LangText& text);
+
+// A larger language file is not used: it has hundreds of times the size of any translation.
+inline constexpr uint64_t LargestLanguageFile = 8 << 20;
+
+// What counts of a line of a language file where ";" starts a comment. Lines without one stay as
+// they are, blanks included.
+std::string_view LineWithoutComment(std::string_view line);
+
+// From now on, in this run, texts come from that language file, or with an empty path are the
+// English defaults. Nothing is ever appended.
+void SpeakOnlyFrom(const std::string& path);

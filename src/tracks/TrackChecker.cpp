@@ -34,26 +34,26 @@ constexpr Range Ranges[] = {
 
 class Checker {
  public:
-  // Reads the file up to its first fault. Fails where the file cannot be read, or a line that must
-  // be converted cannot be.
-  void Check(const std::string& path);
+  explicit Checker(const FaultTaker& take) : take_(take) {}
 
-  int32_t code() const { return code_; }
-  const std::string& message() const { return message_; }
-  int32_t lines() const { return Maths::ToInt32(static_cast<double>(lines_)); }
+  // See FindTrackFaults.
+  TrackSummary Check(Platform::FileLines& lines);
 
  private:
+  void TakeLines(Platform::FileLines& lines);
   void TakeLine(std::string_view line);
+  void TakeUnconverted(const RuntimeError& error);
   void FailNotNumeric();
   void FailOutOfRange();
   void Fail(int32_t code, const std::string& message);
   std::string Prefix() const;
 
+  const FaultTaker& take_;
   int64_t lines_ = 0;
   int64_t part_ = 1;
   int position_ = Start;
-  int32_t code_ = 0;
-  std::string message_;
+  bool isOver_ = false;  // no more lines are wanted, or it is not known what they stand for
+  bool hasFault_ = false;
 };
 
 std::string InBrackets(const std::string& text) {
@@ -66,24 +66,40 @@ std::string TextOf(const LangText& text, const Range& range, const LangText& wor
          std::to_string(range.high) + ".";
 }
 
-void Checker::Check(const std::string& path) {
-  Platform::FileLines lines(path);
-  std::string_view line;
-  while (position_ != Weather && lines.Next(line)) {
-    ++lines_;
-    ++position_;
-    TakeLine(line);
-    if (code_ != 0) return;
+TrackSummary Checker::Check(Platform::FileLines& lines) {
+  bool isAtEnd = false;
+  while (!isAtEnd && !isOver_) {
+    // Around all lines and not around each, since nearly all of them are numbers.
+    try {
+      TakeLines(lines);
+      isAtEnd = true;
+    } catch (const RuntimeError& error) {
+      const bool isOfANumber =
+          error.number() == RuntimeError::Overflow || error.number() == RuntimeError::TypeMismatch;
+      if (!isOfANumber) throw;
+      TakeUnconverted(error);
+    }
   }
+  if (isOver_) return {lines_, ""};
   // Lines behind the weather mean nothing; the message only tells how many lines the file has.
   while (lines.Skip()) ++lines_;
   if (position_ < End) {
-    return Fail(TrackFault::NoEnd,
-                InBrackets(GetLangString(TrackTexts.End)) + GetLangString(TrackTexts.NoTrackEnd));
+    Fail(TrackFault::NoEnd,
+         InBrackets(GetLangString(TrackTexts.End)) + GetLangString(TrackTexts.NoTrackEnd));
   }
-  message_ = std::to_string(lines_) + " " + GetLangString(TrackTexts.Lines) + ", " +
-             std::to_string(part_) + " " + GetLangString(TrackTexts.Parts) + ", " +
-             GetLangString(TrackTexts.CTFCheckTrackSuccessful);
+  if (hasFault_) return {lines_, ""};
+  return {lines_, std::to_string(lines_) + " " + GetLangString(TrackTexts.Lines) + ", " +
+                      std::to_string(part_) + " " + GetLangString(TrackTexts.Parts) + ", " +
+                      GetLangString(TrackTexts.CTFCheckTrackSuccessful)};
+}
+
+void Checker::TakeLines(Platform::FileLines& lines) {
+  std::string_view line;
+  while (position_ != Weather && !isOver_ && lines.Next(line)) {
+    ++lines_;
+    ++position_;
+    TakeLine(line);
+  }
 }
 
 void Checker::TakeLine(std::string_view line) {
@@ -96,6 +112,19 @@ void Checker::TakeLine(std::string_view line) {
     position_ = Curve;
   }
   if (!Ranges[position_].Holds(*value)) FailOutOfRange();
+}
+
+// A number that does not fit 32 bits, or a text where the next part or the weather may begin.
+void Checker::TakeUnconverted(const RuntimeError& error) {
+  const bool isText = error.number() == RuntimeError::TypeMismatch;
+  // A number, however large, begins the next part.
+  if (!isText && position_ == End) {
+    ++part_;
+    position_ = Curve;
+  }
+  Fail(TrackFault::Unreadable, GetLangString(CauseOf(error)));
+  // Whether the track ends at such a text, or goes on, nobody knows.
+  if (isText && position_ == End) isOver_ = true;
 }
 
 void Checker::FailOutOfRange() {
@@ -137,8 +166,8 @@ void Checker::FailNotNumeric() {
 }
 
 void Checker::Fail(int32_t code, const std::string& message) {
-  code_ = code;
-  message_ = message;
+  hasFault_ = true;
+  if (!take_({lines_, code, message})) isOver_ = true;
 }
 
 // Where the fault is: the line of the part and the part, such as "(L2P5): ".
@@ -149,15 +178,24 @@ std::string Checker::Prefix() const {
 
 }  // namespace
 
+TrackSummary FindTrackFaults(Platform::FileLines& lines, const FaultTaker& take) {
+  return Checker(take).Check(lines);
+}
+
 int32_t CheckTrackFile(const std::string& path, int32_t& code, std::string& message) {
   try {
-    Checker checker;
-    checker.Check(path);
+    Platform::FileLines lines(path);
+    Fault fault;
+    const TrackSummary summary = FindTrackFaults(lines, [&](const Fault& first) {
+      fault = first;
+      return false;
+    });
+    if (fault.code == TrackFault::Unreadable) throw RuntimeError(RuntimeError::TypeMismatch);
     // Before anything is handed out: a count beyond 32 bits fails, and the verdict is another.
-    const int32_t lines = checker.lines();
-    code = checker.code();
-    message = checker.message();
-    return code != 0 ? lines : 0;
+    const int32_t count = Maths::ToInt32(static_cast<double>(summary.lines));
+    code = fault.code;
+    message = code != 0 ? fault.message : summary.message;
+    return code != 0 ? count : 0;
   } catch (const std::exception&) {
     code = TrackFault::Unreadable;
     message = InBrackets(GetLangString(TrackTexts.General)) + path + " " +

@@ -1,8 +1,14 @@
-// Finds the first fault in a track file.
+// Finds the faults in a track file.
 #pragma once
 
 #include <cstdint>
 #include <string>
+
+#include "base/Fault.h"
+
+namespace Platform {
+class FileLines;
+}
 
 // What the checker finds.
 namespace TrackFault {
@@ -19,7 +25,19 @@ inline constexpr int32_t WeatherOutOfRange = -4;
 inline constexpr int32_t Unreadable = -5;
 }  // namespace TrackFault
 
-// Checks a track file line by line, in bounded memory. Changes nothing on disk.
+struct TrackSummary {
+  int64_t lines = 0;    // all that were read
+  std::string message;  // what to tell of a track without a fault, in the user's language
+};
+
+// Tells each fault of a track, line by line, in bounded memory, until the taker wants no more.
+// Behind a fault it goes on with the line that follows, as if the faulty one had been right; only
+// behind a text in place of a part or of the end nothing more is told. There a number or a text
+// that cannot be converted is told as Unreadable, with the cause as its message. Fails as reading
+// the lines does.
+TrackSummary FindTrackFaults(Platform::FileLines& lines, const FaultTaker& take);
+
+// The first of them, as the pack tells it. Changes nothing on disk.
 //   path     full path of the file.
 //   code     set to 0 or to a TrackFault.
 //   message  set to what to tell the user, of success too, in the user's language.

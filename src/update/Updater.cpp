@@ -20,10 +20,6 @@ namespace Updater {
 
 namespace {
 
-constexpr const char* Product = "sk2up";
-constexpr const char* RecordsPath = "/orvane/software/versions.dat";
-constexpr const char* InstallerPath = "/orvane/software/sk2up.exe";
-
 // Nothing is asked, no box is shown, and it cannot be cancelled.
 constexpr const char* SilentSwitches = "/SP- /SILENT /SUPPRESSMSGBOXES /NOCANCEL";
 
@@ -75,7 +71,8 @@ void CheckForUpdates(bool isSilent) {
     if (!isSilent) Messages::Show(text, title, icon);
   };
   const std::string server = Addresses::MakerServer;
-  const std::string version = GetVersionRecord(server + RecordsPath, Product, "=");
+  const std::string version =
+      GetVersionRecord(server + Versions::RecordsPath, Versions::Product, Versions::Separator);
   if (const LangText* text = TextOfCode(version)) {
     return tell(*text, SharedTexts.Error, Icon::Critical);
   }
@@ -93,7 +90,7 @@ void CheckForUpdates(bool isSilent) {
   // that version 1 is available, and what they are asked reads as they know it.
   if (!ShowUpdatePrompt(std::to_string(comparison))) return;
   try {
-    RunUpdater(server + InstallerPath, Platform::ProgramFolder(), true);
+    RunUpdater(server + Versions::InstallerPath, Platform::ProgramFolder(), true);
   } catch (const std::exception&) {
     // The user has asked for it and waits: told here, since at the start failures are passed over.
     Platform::TellFailure();

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/LineReader.h"
+#include "base/Text.h"
 #include "platform/LetterCase.h"
 #include "platform/Numbers.h"
 
@@ -21,6 +22,9 @@ std::vector<std::string_view> Parts(std::string_view version) {
     version.remove_prefix(dot + 1);
   }
 }
+
+// The version resource of a program has sixteen bits for each number.
+constexpr int32_t LargestNumber = 0xFFFF;
 
 }  // namespace
 
@@ -53,6 +57,25 @@ Comparison Compare(std::string_view version, const Platform::ProgramVersion& pro
     if (numbers[i] != own[i]) return numbers[i] > own[i] ? Newer : Older;
   }
   return Same;
+}
+
+std::optional<Platform::ProgramVersion> Published(std::string_view version) {
+  const std::vector<std::string_view> parts = Parts(version);
+  std::array<int32_t, 3> numbers{};
+  if (parts.size() != numbers.size()) return std::nullopt;
+  for (size_t i = 0; i < numbers.size(); ++i) {
+    if (!Platform::ParsePlainInteger(parts[i], numbers[i])) return std::nullopt;
+    if (parts[i].starts_with('-') || numbers[i] > LargestNumber) return std::nullopt;
+  }
+  return Platform::ProgramVersion{numbers[0], numbers[1], numbers[2], "", ""};
+}
+
+std::string RecordsOf(const std::vector<Record>& records) {
+  std::string text;
+  for (const Record& record : records) {
+    text.append(record.product).append(Separator).append(record.version).append(Text::LineEnd);
+  }
+  return text;
 }
 
 }  // namespace Versions

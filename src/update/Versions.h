@@ -1,8 +1,10 @@
 // Versions as the maker's server publishes them. No file is touched here.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Executable.h"
 
@@ -30,5 +32,26 @@ enum Comparison { Newer = 1, Same = 0, Older = -1, Invalid = -2 };
 // invalid. That has always been so, and versions are published accordingly. Fails with RuntimeError
 // Overflow if a number is beyond 32 bits.
 Comparison Compare(std::string_view version, const Platform::ProgramVersion& program);
+
+// Where the maker's server has the records and the pack's installer, and what the pack is called
+// there.
+inline constexpr const char* RecordsPath = "/orvane/software/versions.dat";
+inline constexpr const char* InstallerPath = "/orvane/software/sk2up.exe";
+inline constexpr const char* Product = "sk2up";
+inline constexpr const char* Separator = "=";
+
+// A version as it is published: three whole numbers with "." between them, each of nothing but
+// digits and no greater than a program's version can hold. Nothing if the text is none. Whatever
+// this takes, Compare takes too, and on every player's machine alike.
+std::optional<Platform::ProgramVersion> Published(std::string_view version);
+
+struct Record {
+  std::string product;
+  std::string version;
+};
+
+// The text of a file of records, which VersionIn reads.
+//   records  of which no part has a line end and no product the separator.
+std::string RecordsOf(const std::vector<Record>& records);
 
 }  // namespace Versions

@@ -4,9 +4,11 @@
 #include <exception>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "base/KeyValue.h"
 #include "base/Maths.h"
+#include "base/RuntimeError.h"
 #include "base/SharedTexts.h"
 #include "platform/FileLines.h"
 #include "platform/Files.h"
@@ -19,24 +21,26 @@
 
 namespace {
 
-struct Fault {
-  int32_t code;
-  std::string message;
-};
+// Its line is told by who reads the lines.
+using Found = std::optional<Fault>;
+
+Fault FaultWith(int32_t code, std::string message) {
+  return {.code = code, .message = std::move(message)};
+}
 
 class Checker {
  public:
-  explicit Checker(const std::string& path) : folder_(Platform::FolderOf(path)) {}
+  explicit Checker(const VehicleSounds& sounds) : sounds_(sounds) {}
 
   // The fault of one line, if it has one. Fails if a number does not fit 32 bits.
-  std::optional<Fault> FaultOf(std::string_view line);
+  Found FaultOf(std::string_view line);
 
  private:
   std::optional<VehicleVariable> FindVariable(std::string_view name);
-  std::optional<Fault> FaultOfSound(VehicleVariable variable, std::string_view value) const;
+  Found FaultOfSound(VehicleVariable variable, std::string_view value) const;
 
   Platform::LongStep step_;
-  std::string folder_;
+  const VehicleSounds& sounds_;
   size_t expected_ = 0;  // the index of the variable behind the last one
 };
 
@@ -48,37 +52,37 @@ bool IsInternalSound(VehicleVariable variable, std::string_view value) {
   return value == "car3" || value == "car4" || value == "cycle1" || value == "cycle2";
 }
 
-std::optional<Fault> FaultOfNumber(VehicleVariable variable, std::string_view value) {
+Found FaultOfNumber(VehicleVariable variable, std::string_view value) {
   const auto whole = Platform::ParseWhole(value);
   if (!whole) {
-    return Fault{VehicleFault::InvalidValue, GetLangString(VehicleTexts.CVFInvalidValue)};
+    return FaultWith(VehicleFault::InvalidValue, GetLangString(VehicleTexts.CVFInvalidValue));
   }
   if (variable == VehicleVariable::SteeringFactor && (*whole < 1 || *whole > 100)) {
-    return Fault{VehicleFault::SteeringFactorOutOfRange,
-                 GetLangString(VehicleTexts.CVFSteeringFactorOutOfRange) + " 1 " +
-                     GetLangString(SharedTexts.And) + " 100."};
+    return FaultWith(VehicleFault::SteeringFactorOutOfRange,
+                     GetLangString(VehicleTexts.CVFSteeringFactorOutOfRange) + " 1 " +
+                         GetLangString(SharedTexts.And) + " 100.");
   }
   if (variable == VehicleVariable::HasWipers && (*whole < 0 || *whole > 1)) {
-    return Fault{VehicleFault::HasWipersOutOfRange,
-                 GetLangString(VehicleTexts.CVFHasWipersOutOfRange) + " 0 " +
-                     GetLangString(SharedTexts.Or) + " 1."};
+    return FaultWith(VehicleFault::HasWipersOutOfRange,
+                     GetLangString(VehicleTexts.CVFHasWipersOutOfRange) + " 0 " +
+                         GetLangString(SharedTexts.Or) + " 1.");
   }
   return std::nullopt;
 }
 
-std::optional<Fault> Checker::FaultOf(std::string_view line) {
+Found Checker::FaultOf(std::string_view line) {
   const auto pair = KeyValue::Split(line);
   if (!pair) {
-    return Fault{VehicleFault::InvalidSyntax, GetLangString(VehicleTexts.CVFInvalidSyntax)};
+    return FaultWith(VehicleFault::InvalidSyntax, GetLangString(VehicleTexts.CVFInvalidSyntax));
   }
   const std::string_view name = pair->key;
   // What follows a second "=" is no fault: it has never been looked at.
   const std::string_view value = pair->value.substr(0, pair->value.find('='));
   const auto variable = FindVariable(name);
   if (!variable) {
-    return Fault{VehicleFault::InvalidVariable,
-                 GetLangString(VehicleTexts.CVFInvalidVariable1) + " (" + std::string(name) +
-                     "). " + GetLangString(VehicleTexts.CVFInvalidVariable2)};
+    return FaultWith(VehicleFault::InvalidVariable,
+                     GetLangString(VehicleTexts.CVFInvalidVariable1) + " (" + std::string(name) +
+                         "). " + GetLangString(VehicleTexts.CVFInvalidVariable2));
   }
   return IsSound(*variable) ? FaultOfSound(*variable, value) : FaultOfNumber(*variable, value);
 }
@@ -95,37 +99,62 @@ std::optional<VehicleVariable> Checker::FindVariable(std::string_view name) {
   return std::nullopt;
 }
 
-std::optional<Fault> Checker::FaultOfSound(VehicleVariable variable, std::string_view value) const {
+Found Checker::FaultOfSound(VehicleVariable variable, std::string_view value) const {
   if (IsInternalSound(variable, value)) return std::nullopt;
   // An empty name stands for the folder itself. That exists, so it is no fault.
-  const std::string path = folder_ + "\\" + std::string(value);
+  const std::string path = sounds_.folder + "\\" + std::string(value);
   step_.AnswerOthers();  // on a slow drive each name takes its time
-  if (Platform::FileExists(path)) return std::nullopt;
-  return Fault{VehicleFault::NonexistentSound,
-               GetLangString(VehicleTexts.CVFNonexistentSoundFile1) + " " + path + " " +
-                   GetLangString(VehicleTexts.CVFNonexistentSoundFile2)};
+  if (sounds_.exists(path)) return std::nullopt;
+  return FaultWith(VehicleFault::NonexistentSound,
+                   GetLangString(VehicleTexts.CVFNonexistentSoundFile1) + " " + path + " " +
+                       GetLangString(VehicleTexts.CVFNonexistentSoundFile2));
 }
 
 }  // namespace
 
+int64_t FindVehicleFaults(Platform::FileLines& lines, const VehicleSounds& sounds,
+                          const FaultTaker& take) {
+  Checker checker(sounds);
+  int64_t count = 0;
+  std::string_view line;
+  while (lines.Next(line)) {
+    ++count;
+    Found fault;
+    try {
+      fault = checker.FaultOf(line);
+    } catch (const RuntimeError& error) {
+      if (error.number() != RuntimeError::Overflow) throw;
+      fault = FaultWith(VehicleFault::Unreadable, GetLangString(CauseOf(error)));
+    }
+    if (!fault) continue;
+    fault->line = count;
+    if (!take(*fault)) break;
+  }
+  return count;
+}
+
+VehicleSounds SoundsBeside(const std::string& path) {
+  return {Platform::FolderOf(path), Platform::FileExists};
+}
+
 int32_t CheckVehicleFile(const std::string& path, int32_t& code, std::string& message) {
   try {
     Platform::FileLines lines(path);
-    Checker checker(path);
-    int64_t count = 0;
-    std::string_view line;
-    while (lines.Next(line)) {
-      ++count;
-      if (auto fault = checker.FaultOf(line)) {
-        // Before anything is handed out: a count beyond 32 bits fails, and the verdict is another.
-        const int32_t result = Maths::ToInt32(static_cast<double>(count));
-        code = fault->code;
-        message = std::move(fault->message);
-        return result;
-      }
+    std::optional<Fault> fault;
+    FindVehicleFaults(lines, SoundsBeside(path), [&](const Fault& first) {
+      fault = first;
+      return false;
+    });
+    if (!fault) {
+      message = GetLangString(VehicleTexts.CVFNoError);
+      return 0;
     }
-    message = GetLangString(VehicleTexts.CVFNoError);
-    return 0;
+    if (fault->code == VehicleFault::Unreadable) throw RuntimeError(RuntimeError::Overflow);
+    // Before anything is handed out: a count beyond 32 bits fails, and the verdict is another.
+    const int32_t result = Maths::ToInt32(static_cast<double>(fault->line));
+    code = fault->code;
+    message = std::move(fault->message);
+    return result;
   } catch (const std::exception&) {
     code = VehicleFault::Unreadable;
     message = GetLangString(VehicleTexts.CVFNonexistentVhcFile);

@@ -1,8 +1,15 @@
-// Finds the first fault in a vehicle file.
+// Finds the faults in a vehicle file.
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
+
+#include "base/Fault.h"
+
+namespace Platform {
+class FileLines;
+}
 
 // What the checker finds.
 namespace VehicleFault {
@@ -16,8 +23,23 @@ inline constexpr int32_t HasWipersOutOfRange = -2;
 inline constexpr int32_t Unreadable = -3;
 }  // namespace VehicleFault
 
-// Checks a vehicle file line by line, in bounded memory. Changes nothing on disk.
-//   path     full path of the file. Sounds are looked for in the folder before its last backslash.
+// Where a vehicle's sounds lie.
+struct VehicleSounds {
+  std::string folder;  // without a backslash at its end
+  // Whether there is something of that path: the folder, a backslash and the name of a sound.
+  std::function<bool(const std::string& path)> exists;
+};
+// On the disk, in the folder before the last backslash of the vehicle's path.
+VehicleSounds SoundsBeside(const std::string& path);
+
+// Tells each fault of a vehicle, line by line, in bounded memory, until the taker wants no more. A
+// number that does not fit 32 bits is told as Unreadable, with the cause as its message. Returns
+// the number of the lines that were read. Fails as reading the lines does.
+int64_t FindVehicleFaults(Platform::FileLines& lines, const VehicleSounds& sounds,
+                          const FaultTaker& take);
+
+// The first of them, as the pack tells it. Changes nothing on disk.
+//   path     full path of the file.
 //   code     0 on entry; set to a VehicleFault if there is one.
 //   message  set to what to tell the user, of success too, in the user's language.
 // Returns 0 if there is no fault, the number of the faulty line (the first is 1), or -1 with

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "internet/ComponentPlaces.h"
 #include "internet/Components.h"
 #include "tests/internet/InternetStory.h"
 
@@ -61,6 +62,32 @@ TEST(ComponentRecords, KeepTheCarriageReturn) {
   EXPECT_EQ(FileNameOf("a:a.zip\nb:b.zip\r\n", "b"), "b.zip\r");
 }
 
+TEST(ComponentRecords, AreWrittenAsTheyAreRead) {
+  const std::vector<ComponentRecords::Record> records = {
+      {"Cricket", "cricket.zip"}, {"Rally Pro", "pro.zip"}, {"Rally", "rally.zip"}};
+  const std::string file = ComponentRecords::ListOf(records);
+  EXPECT_EQ(file, "Cricket:cricket.zip\nRally Pro:pro.zip\nRally:rally.zip\n");
+  const ComponentRecords::Lines lines = LinesIn(file);
+  EXPECT_EQ(lines.badLine, 0U);
+  EXPECT_THAT(DisplayNames(lines.text), ElementsAre("Cricket", "Rally Pro", "Rally"));
+  for (const ComponentRecords::Record& record : records) {
+    EXPECT_EQ(FileNameOf(lines.text, record.displayName), record.fileName);
+  }
+}
+
+TEST(ComponentRecords, OfNothingAreAnEmptyList) {
+  EXPECT_EQ(ComponentRecords::ListOf({}), "");
+  EXPECT_EQ(LinesIn("").badLine, 0U);
+  EXPECT_THAT(DisplayNames(LinesIn("").text), testing::IsEmpty());
+}
+
+TEST(ComponentRecords, HoldOnlyWhatDoesNotEndThem) {
+  for (const char* text : {"", "a:b", "a\nb", "a\rb"}) {
+    EXPECT_FALSE(ComponentRecords::MayBePart(text)) << text;
+  }
+  EXPECT_TRUE(ComponentRecords::MayBePart("Rally Pro"));
+}
+
 class ComponentsStory : public InternetStory {};
 
 TEST_F(ComponentsStory, LieWhereTheServerHasThem) {
@@ -77,8 +104,8 @@ TEST_F(ComponentsStory, LieWhereTheServerHasThem) {
 
 TEST_F(ComponentsStory, AreInstalledUnderPlainNamesAlone) {
   for (const char* name : {"a.zip", "Dirt Buggy.zip", "buggy", "a.b.zip", "&#%20.zip"}) {
-    for (int kind = 0; kind < Components::Count; ++kind) {
-      EXPECT_TRUE(Components::IsInstallable(kind, name)) << name;
+    for (int kind = 0; kind < ComponentPlaces::Count; ++kind) {
+      EXPECT_TRUE(ComponentPlaces::IsInstallable(kind, name)) << name;
     }
   }
   for (const char* name :
@@ -86,15 +113,15 @@ TEST_F(ComponentsStory, AreInstalledUnderPlainNamesAlone) {
         "a\\b.zip", "a/b.zip",     "/a.zip",   "\\a.zip", "C:a.zip", "a.zip:stream", "con.zip",
         "NUL",      "nul.tar.zip", "a?.zip",   "a*.zip",  "a.zip.",  "a.zip ",       "a\tb.zip",
         "a\nb.zip", "a|b.zip",     "\"a\".zip"}) {
-    for (int kind = 0; kind < Components::Count; ++kind) {
-      EXPECT_FALSE(Components::IsInstallable(kind, name)) << name;
+    for (int kind = 0; kind < ComponentPlaces::Count; ++kind) {
+      EXPECT_FALSE(ComponentPlaces::IsInstallable(kind, name)) << name;
     }
   }
   // As names of folders they would be others.
   for (const char* name : {"a..zip", "a .zip", "...zip", "..zip1"}) {
-    EXPECT_FALSE(Components::IsInstallable(2, name)) << name;
+    EXPECT_FALSE(ComponentPlaces::IsInstallable(2, name)) << name;
   }
-  EXPECT_TRUE(Components::IsInstallable(0, "a..zip"));
+  EXPECT_TRUE(ComponentPlaces::IsInstallable(0, "a..zip"));
 }
 
 TEST_F(ComponentsStory, HaveTextsOfTheirOwn) {

@@ -1,7 +1,6 @@
-// The maker's web site, as server/ makes it: every address gets its page, and what is offered to be
-// fetched is good.
+// The maker's web site in the small: every address gets its page, and what the demo's maker offers
+// is published and good.
 #include <filesystem>
-#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,7 +12,7 @@
 #include "tests/ProjectFile.h"
 #include "tests/SimulatedGame.h"
 #include "tests/Story.h"
-#include "tests/Texts.h"
+#include "tools/Publisher.h"
 #include "tracks/TrackChecker.h"
 #include "vehicles/VehicleChecker.h"
 
@@ -21,15 +20,13 @@ namespace {
 
 namespace fs = std::filesystem;
 using ProjectFile::BytesOf;
-using testing::ElementsAre;
 using testing::UnorderedElementsAreArray;
 
 const std::string Game = "C:\\Games\\Skidrun2";
-const fs::path Data = ProjectFile::Website / "site/orvane/games/sk2/data";
 
 // The page as the server sends it to a caller.
 std::string EchoPage(const std::string& caller) {
-  const std::string configuration = BytesOf("server/nginx.conf.in");
+  const std::string configuration = BytesOf("server/site.conf.in");
   const std::string start = "return 200 '";
   const size_t begin = configuration.find(start);
   const size_t end = configuration.find("';", begin);
@@ -57,41 +54,58 @@ TEST(EchoPage, IsReadByPeopleToo) {
   EXPECT_THAT(EchoPage("203.0.113.7"), testing::StartsWith("<!DOCTYPE html>"));
 }
 
+// That the pack's hosts are those for which the configuration is made unless it is told others.
 TEST(Website, HasTheHostsThatThePackAsks) {
-  const std::string configuration = BytesOf("server/nginx.conf.in");
+  const std::string configuration = BytesOf("server/configuration.sh");
   for (const std::string url : {Addresses::MakerServer, Addresses::AddressPage}) {
     const std::string host = Text::Replace(url.substr(url.find("//") + 2), "/", "");
-    EXPECT_THAT(configuration, testing::HasSubstr("server_name " + host + ";")) << url;
+    EXPECT_THAT(configuration, testing::HasSubstr(":-" + host + "}")) << url;
   }
 }
 
-TEST(Website, OffersTheReleaseThatThisIs) {
-  EXPECT_EQ(BytesOf(ProjectFile::Website / "site/orvane/software/versions.dat"),
+// What is made of the demo maker's folder.
+class DemoSite : public Story {
+ protected:
+  void SetUp() override {
+    Story::SetUp();
+    const fs::path offer = ProjectFile::Website / "offer";
+    for (const auto& entry : fs::recursive_directory_iterator(offer)) {
+      const std::string path = fs::relative(entry.path(), offer).string();
+      if (entry.is_directory()) continue;
+      machine.files.MountHostFile("C:\\Offer\\" + Text::Replace(path, "/", "\\"),
+                                  entry.path().string());
+    }
+    report = Publisher::Publish("C:\\Offer", "C:\\Site");
+  }
+  std::string Served(const std::string& path) {
+    return machine.files.Text("C:\\Site\\current\\" + Text::Replace(path, "/", "\\"));
+  }
+
+  Publisher::Report report;
+};
+
+TEST_F(DemoSite, IsPublishedWithoutAFault) {
+  for (const auto& fault : report.faults) ADD_FAILURE() << fault.file << ": " << fault.reason;
+  EXPECT_EQ(report.outcome, Publisher::Outcome::Published);
+}
+
+TEST_F(DemoSite, OffersTheReleaseThatThisIs) {
+  EXPECT_EQ(Served("orvane/software/versions.dat"),
             std::string("sk2up=") + ProjectVersion + "\r\n");
 }
 
-// The names of the archives in a list.
-std::vector<std::string> Listed(const std::string& list) {
-  std::vector<std::string> names;
-  for (const std::string& record : Texts::Split(BytesOf(Data / list), "\n")) {
-    if (record.empty()) continue;
-    const size_t colon = record.find(':');
-    EXPECT_NE(colon, std::string::npos) << record;
-    names.push_back(record.substr(colon + 1));
+TEST_F(DemoSite, ListsWhatItHas) {
+  EXPECT_EQ(Served("orvane/games/sk2/data/cars.lst"),
+            "Cricket:cricket.zip\nNight Coach:coach.zip\n");
+  EXPECT_EQ(Served("orvane/games/sk2/data/tracks.lst"),
+            "High Pass:pass.zip\nThe Marsh:marsh.zip\n");
+  EXPECT_EQ(Served("orvane/games/sk2/data/langs.lst"), "Francais:Francais.zip\n");
+  for (const char* archive : {"cars/cricket.zip", "cars/coach.zip", "tracks/pass.zip",
+                              "tracks/marsh.zip", "langs/Francais.zip"}) {
+    EXPECT_EQ(Served(std::string("orvane/games/sk2/") + archive),
+              BytesOf(ProjectFile::Website / "offer" / archive));
   }
-  return names;
-}
-
-TEST(Website, ListsWhatItHas) {
-  for (const std::string kind : {"cars", "tracks", "langs"}) {
-    std::set<std::string> archives;
-    for (const auto& entry : fs::directory_iterator(Data.parent_path() / kind)) {
-      archives.insert(entry.path().filename().string());
-      EXPECT_TRUE(BytesOf(entry.path()).starts_with("PK")) << entry.path();
-    }
-    EXPECT_THAT(Listed(kind + ".lst"), UnorderedElementsAreArray(archives)) << kind;
-  }
-  EXPECT_THAT(Listed("cars.lst"), ElementsAre("cricket.zip", "coach.zip"));
+  EXPECT_EQ(Served("index.html"), BytesOf("server/offer/pages/index.html"));
 }
 
 // The add-ons, each where it is unpacked.

@@ -90,4 +90,31 @@ TEST_F(VersionComparison, OfANumberBeyondAllMeasureFailsOnlyIfAllAreNumbers) {
   EXPECT_EQ(Compare("9999999999.0.x", 1, 0, 0), -2);
 }
 
+class PublishedVersions : public Story {};
+
+TEST_F(PublishedVersions, AreThreeWholeNumbers) {
+  for (const char* text : {"1.0.0", "0.0.0", "10.20.30", "65535.65535.65535", "01.002.3"}) {
+    EXPECT_TRUE(Versions::Published(text)) << text;
+  }
+  for (const char* text : {"", "1", "1.0", "1.0.0.0", "1..0", ".1.0", "1.0.", "1.0.0 ", " 1.0.0",
+                           "1.0.-1", "1.+0.0", "1.0.x", "1.0.0beta", "1,0,0", "1.0.&H1",
+                           "1.0.65536", "1.0.4294967296", "1.0.99999999999999999999", "1.0.0\r"}) {
+    EXPECT_FALSE(Versions::Published(text)) << text;
+  }
+}
+
+TEST_F(PublishedVersions, AreComparedAsThePackComparesThem) {
+  const auto published = Versions::Published("1.2.3");
+  EXPECT_EQ(Versions::Compare("1.2.3", *published), Versions::Same);
+  EXPECT_EQ(Versions::Compare("1.10.0", *published), Versions::Newer);
+  EXPECT_EQ(Versions::Compare("1.2.2", *published), Versions::Older);
+}
+
+TEST_F(PublishedVersions, AreWrittenAsTheyAreRead) {
+  const std::string records = Versions::RecordsOf({{"sk2up", "1.2.0"}, {"other", "9.9.9"}});
+  EXPECT_EQ(records, "sk2up=1.2.0\r\nother=9.9.9\r\n");
+  EXPECT_EQ(VersionIn(records, "sk2up", "="), "1.2.0");
+  EXPECT_EQ(VersionIn(records, "other", "="), "9.9.9");
+}
+
 }  // namespace

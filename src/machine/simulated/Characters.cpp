@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Utf8.h"
+#include "base/WesternPage.h"
 #include "machine/simulated/Machine.h"
 
 namespace Platform {
@@ -16,11 +17,6 @@ constexpr char32_t Replacement = 0xFFFD;
 // What stands in Unicode for a character of two bytes, whose real numbers only tables know: a place
 // of its own among those that are left to private use.
 constexpr char32_t FirstOfTwoBytes = 0xF0000;
-// What the Western page has between 0x80 and 0x9F.
-constexpr char32_t Western[] = {0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021,
-                                0x2C6,  0x2030, 0x160,  0x2039, 0x152,  0x8D,   0x17D,  0x8F,
-                                0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178};
 
 unsigned char ByteAt(std::string_view text, size_t i) {
   return static_cast<unsigned char>(text[i]);
@@ -29,16 +25,12 @@ unsigned char ByteAt(std::string_view text, size_t i) {
 // The character with which a text of a page other than UTF-8 begins.
 char32_t FirstCharacter(std::string_view text, size_t length) {
   if (length == 2) return FirstOfTwoBytes + (char32_t{ByteAt(text, 0)} << 8 | ByteAt(text, 1));
-  const unsigned char byte = ByteAt(text, 0);
-  return byte >= 0x80 && byte < 0xA0 ? Western[byte - 0x80] : byte;
+  return WesternPage::CharacterOf(ByteAt(text, 0));
 }
 
 void AppendInPage(char32_t character, std::string& text) {
-  const auto* const western = std::find(std::begin(Western), std::end(Western), character);
-  if (western != std::end(Western)) {
-    text += static_cast<char>(0x80 + (western - std::begin(Western)));
-  } else if (character < 0x100) {
-    text += static_cast<char>(character);
+  if (const auto byte = WesternPage::ByteOf(character)) {
+    text += *byte;
   } else if (character > FirstOfTwoBytes && TheMachine().locale.codePage != 1252) {
     text += static_cast<char>((character - FirstOfTwoBytes) >> 8);
     text += static_cast<char>(character - FirstOfTwoBytes);

@@ -3,12 +3,12 @@
 
 #include <string>
 
+#include "platform/NumberForm.h"
+
 namespace Simulated {
 
 struct LocaleSettings {
-  std::string decimal = ".";
-  std::string thousands = ",";
-  std::string currency = "$";
+  Platform::NumberForm numbers;
   // Windows' Western one; 932, 936, 949 or 950, in which a character may take two bytes; or 65001,
   // UTF-8.
   int codePage = 1252;
@@ -16,8 +16,8 @@ struct LocaleSettings {
   int minutesAheadOfUtc = 60;
 
   void SetSeparators(const std::string& newDecimal, const std::string& newThousands) {
-    decimal = newDecimal;
-    thousands = newThousands;
+    numbers.decimal = newDecimal;
+    numbers.thousands = newThousands;
   }
 
   // True if the byte is the first of two in a code page of two bytes a character.

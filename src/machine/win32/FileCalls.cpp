@@ -226,7 +226,12 @@ SystemError List(const std::string& folder, std::vector<FolderEntry>& entries) {
   do {
     const std::string name = Narrow(found.cFileName);
     if (name == "." || name == "..") continue;
-    entries.push_back({name, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+    // Of the kinds of reparse points these two lead elsewhere; files of the cloud are where they
+    // are.
+    const bool isLink = (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+                        (found.dwReserved0 == IO_REPARSE_TAG_SYMLINK ||
+                         found.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT);
+    entries.push_back({name, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0, isLink});
   } while (FindNextFileW(search, &found));
   const SystemError error = LastError();
   FindClose(search);
