@@ -73,41 +73,65 @@ std::string NameOf(int code, int shift) {
   return name + static_cast<char>(code);
 }
 
-std::vector<int> KeysToTry() {
+std::vector<Platform::KeyEvent> KeysToTry() {
   using namespace Platform::Key;
   std::vector<int> codes{Escape, Space, Enter};
   for (int code = '0'; code <= '9'; ++code) codes.push_back(code);
   for (int code = 'A'; code <= 'Z'; ++code) codes.push_back(code);
   for (int code = F1; code < F1 + 12; ++code) codes.push_back(code);
-  return codes;
+  std::vector<Platform::KeyEvent> keys;
+  for (const int code : codes) {
+    for (int shift = 0; shift < 8; ++shift) keys.push_back({.code = code, .shift = shift});
+  }
+  return keys;
 }
 
-// Every key is pressed in every window that listens to keys.
+// Presses keys in an open window, from the first of them on, until it takes one. Returns which it
+// was, counted from 0; their number if it takes none.
+size_t PressUntilTaken(const Platform::Form& form, const std::vector<Platform::KeyEvent>& keys,
+                       size_t first) {
+  Simulated::User& user = Simulated::TheMachine().user;
+  for (size_t i = first; i < keys.size(); ++i) {
+    Platform::KeyEvent key = keys[i];
+    // What the key does is not of interest here, only that it is one of the window's.
+    user.CancelsFileDialog();
+    user.AnswersYes();
+    auto handler = form.OnKeyDown;
+    handler(key);
+    user.script().files.clear();
+    user.script().answers.clear();
+    if (key.isHandled) return i;
+  }
+  return keys.size();
+}
+
+std::set<std::string> KeysTakenBy(const Help::WindowTopic& topic) {
+  const auto keys = KeysToTry();
+  std::set<std::string> taken;
+  for (size_t next = 0; next < keys.size();) {
+    Help::Open(topic, [&](const Platform::Form& form) {
+      if (!form.OnKeyDown) {
+        next = keys.size();
+        return;
+      }
+      const size_t index = PressUntilTaken(form, keys, next);
+      if (index < keys.size()) taken.insert(NameOf(keys[index].code, keys[index].shift));
+      next = index + 1;
+    });
+  }
+  return taken;
+}
+
 TEST(HelpTables, EveryKeyOfAWindowIsTold) {
   for (const Help::WindowTopic& topic : Help::WindowTopics()) {
-    bool listens = false;
-    Help::Open(topic, [&](const Platform::Form& form) { listens = form.OnKeyDown != nullptr; });
-    std::set<std::string> told, taken;
+    std::set<std::string> told;
     for (const Help::OwnKey& key : topic.ownKeys) told.insert(key.keys);
-    for (const int code : KeysToTry()) {
-      for (int shift = 0; listens && shift < 8; ++shift) {
-        Help::Open(topic, [&](Platform::Form& form) {
-          auto handler = form.OnKeyDown;
-          Platform::KeyEvent event{.code = code, .shift = shift};
-          // What the key does is not of interest here, only that it is one of the window's.
-          Simulated::TheMachine().user.CancelsFileDialog();
-          handler(event);
-          Simulated::TheMachine().user.script().files.clear();
-          if (event.isHandled) taken.insert(NameOf(code, shift));
-        });
-      }
-    }
-    // The main window takes whatever comes with Ctrl alone, so that it reaches nothing else.
     if (topic.form == "SK2UtilityPack") {
-      for (const std::string& key : told) EXPECT_TRUE(taken.contains(key)) << key;
-      continue;
+      // It takes whatever comes with Ctrl alone, so that it reaches nothing else.
+      EXPECT_THAT(KeysTakenBy(topic), testing::IsSupersetOf(told));
+    } else {
+      EXPECT_EQ(KeysTakenBy(topic), told) << topic.form;
     }
-    EXPECT_EQ(told, taken) << topic.form;
   }
 }
 
