@@ -16,16 +16,18 @@ trap 'exit 143' TERM
 install_packages "${pack_packages[@]}" "${test_packages[@]}" "${sound_packages[@]}"
 
 begin_suites
-build_suite host sk2tests
-build_suite windows
+build_suite host sk2tests posix-contracts check-corpus
 build_suite tools
+build_suite windows
 build_suite fuzz
 build_suite bench
 in_background fuzz_suites out/fuzz/fuzz
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
 check_suite "what is delivered" python3 scripts/check-delivery.py out/windows
+gtest_suite "contracts on the machine of the console programs" out/host/tests/posix-contracts
 wait_for_background
 bench_suites out/bench/bench
+check_suite bench-check bench/check/check-folder.py --brief
 
 lint_suites() {
   lint_suite "code layout" clang-format cmake --build --preset host --target check-format
@@ -72,6 +74,7 @@ machine_suites() {
     --demo=demo --pictures=out/e2e/pictures "--speakers=out/e2e/machine-$1/speakers.raw" \
     "--web=out/e2e/machine-$1/web"
   if [ "$1" = 1 ]; then
+    check_suite "sk2check natively and on Windows" scripts/same-verdicts.sh
     check_suite bench-start wine out/windows/bench/start/bench-start.exe --brief \
       --pack=out/windows/pack --bare=out/windows/bench/start/barewindow.exe
     check_suite bench-lists wine out/windows/bench/lists/bench-lists.exe --brief

@@ -72,16 +72,18 @@ struct Floor {
   int height;
 };
 constexpr int Tools = 5;
+constexpr int ConsolePrograms = 7;
 constexpr Floor Floors[] = {
     {"src/base/", 0},          {"src/platform/", 1},     {"src/archive/", 2},
     {"src/text/", 2},          {"src/ui/", 3},           {"src/game/", 4},
     {"src/vehicles/", Tools},  {"src/tracks/", Tools},   {"src/records/", Tools},
     {"src/packaging/", Tools}, {"src/internet/", Tools}, {"src/update/", Tools},
-    {"src/language/", Tools},  {"src/app/", 6},
+    {"src/language/", Tools},  {"src/app/", 6},          {"src/tools/", ConsolePrograms},
 };
 
 // Each machine stands beside the floors up to the windows, whose seams it implements.
-constexpr const char* Machines[] = {"src/machine/win32/", "src/machine/simulated/"};
+constexpr const char* Machines[] = {"src/machine/win32/", "src/machine/simulated/",
+                                    "src/machine/posix/"};
 constexpr int HighestUnderMachines = 3;
 
 const Floor* FloorOf(const std::string& path) {
@@ -181,6 +183,24 @@ TEST(SourceTree, TheFloorsForbidWhatTheyShould) {
   EXPECT_FALSE(MayInclude("src/platform/Files.h", "src/machine/win32/Failure.h"));
   EXPECT_FALSE(MayInclude("src/machine/simulated/Disk.cpp", "src/machine/win32/Failure.h"));
   EXPECT_FALSE(MayInclude("src/machine/simulated/Machine.cpp", "src/game/Application.h"));
+  EXPECT_FALSE(MayInclude("src/machine/posix/Files.cpp", "src/machine/win32/Failure.h"));
+  EXPECT_FALSE(MayInclude("src/app/Interface.cpp", "src/tools/CheckRun.h"));
+}
+
+// They are built without windows and without a game: of all the floors they take the formats alone.
+TEST(SourceTree, TheConsoleProgramsKnowNoWindowAndNoGame) {
+  int files = 0;
+  for (const SourceFile& file : AllFiles()) {
+    const bool isOfTheMachine = IsIn(file.path, "src/machine/posix");
+    if (!IsIn(file.path, "src/tools") && !isOfTheMachine) continue;
+    ++files;
+    for (const std::string& name : file.quoted) {
+      EXPECT_FALSE(IsIn(name, "ui") || IsIn(name, "game")) << file.path << " includes " << name;
+      // The list of all texts, by which a language file is judged.
+      EXPECT_TRUE(!IsIn(name, "app") || name == "app/LanguageTemplate.h") << file.path;
+    }
+  }
+  EXPECT_GT(files, 15);
 }
 
 // --- Circles ---
@@ -271,8 +291,8 @@ TEST(SourceTree, OnlyTheRealMachineKnowsWindowsHeaders) {
            name != "stdint.h" && !IsIn(name, "sys") && !IsIn(name, "gtest") && !IsIn(name, "gmock");
   };
   for (const SourceFile& file : AllFiles()) {
-    if (IsIn(file.path, "src/machine/win32") || IsIn(file.path, "orec/win32") ||
-        IsIn(file.path, "e2e") || IsIn(file.path, "bench/start") ||
+    if (IsIn(file.path, "src/machine/win32") || IsIn(file.path, "src/machine/posix") ||
+        IsIn(file.path, "orec/win32") || IsIn(file.path, "e2e") || IsIn(file.path, "bench/start") ||
         Texts::Contains(file.path, "/RealMachine")) {
       continue;
     }

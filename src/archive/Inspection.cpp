@@ -82,10 +82,10 @@ bool Inspection::Holds(const std::string& path) const {
   if (!Platform::IsNameUsable(path)) return false;
   const auto key = KeyOf(path);
   if (!key) return false;
-  if (!key->ends_with('\\')) return plan_.files.contains(*key) || plan_.folders.contains(*key);
-  // The folder itself, which holds the archive, is there.
-  const std::string folder = key->substr(0, key->size() - 1);
-  return folder.empty() || plan_.folders.contains(folder);
+  // The folder into which all is unpacked is there.
+  if (key->empty() || *key == "\\") return true;
+  if (key->ends_with('\\')) return plan_.folders.contains(key->substr(0, key->size() - 1));
+  return plan_.files.contains(*key) || plan_.folders.contains(*key);
 }
 
 LineReader::Source Inspection::Open(const std::string& file) {
