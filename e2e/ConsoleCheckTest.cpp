@@ -1,9 +1,8 @@
 // sk2check beside the shipped program: what one prints and what the other shows in its box are the
 // same, on files at random.
-#include <windows.h>
-
 #include <algorithm>
 
+#include "e2e/driver/ConsoleProgram.h"
 #include "e2e/driver/PackTest.h"
 #include "tests/RandomText.h"
 #include "tests/tracks/RandomTrack.h"
@@ -12,38 +11,11 @@
 namespace E2e {
 namespace {
 
-struct Said {
-  DWORD status = 0;
-  std::string output;
-};
-
 class ConsoleCheck : public PackTest {
  protected:
   // What sk2check prints of a file.
-  Said Check(const std::string& path) {
-    const std::string output = scratch.path() + "\\printed.txt";
-    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-    const HANDLE file = CreateFileA(output.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
-                                    CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    std::string command =
-        "\"" + Given().pack + "\\..\\tools\\sk2check.exe\" --first --quiet \"" + path + "\"";
-    STARTUPINFOA start{};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdOutput = file;
-    start.hStdError = file;
-    PROCESS_INFORMATION process{};
-    const BOOL isStarted = CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE,
-                                          CREATE_NO_WINDOW, nullptr, nullptr, &start, &process);
-    CloseHandle(file);
-    if (!isStarted) throw std::runtime_error("sk2check cannot be started");
-    Said said;
-    WaitForSingleObject(process.hProcess, INFINITE);
-    GetExitCodeProcess(process.hProcess, &said.status);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    said.output = ReadFile(output);
-    return said;
+  static ConsoleOutcome Check(const std::string& path) {
+    return RunTool("sk2check", {"--first", "--quiet", path});
   }
 
   // The pack's box for a file.
@@ -93,8 +65,8 @@ TEST_F(ConsoleCheck, SaysOfFiftyFilesWhatThePackShows) {
         gameFolder() + (isTrack ? "\\tracks\\random.trk" : "\\vehicles\\random.vhc");
     WriteFile(path, bytes);
     const BoxText box = Show(pack, path, isTrack);
-    const Said said = Check(path);
-    ASSERT_EQ(said.output, LineOf(box, path)) << testing::PrintToString(bytes);
+    const ConsoleOutcome said = Check(path);
+    ASSERT_EQ(said.said, LineOf(box, path)) << testing::PrintToString(bytes);
     // A track without an end after no lines is told under "File OK", and is none.
     const bool isGood = box.title == "File OK" && !bytes.empty();
     ASSERT_EQ(said.status, isGood ? 0u : 1u) << testing::PrintToString(bytes);
@@ -110,11 +82,11 @@ TEST_F(ConsoleCheck, SaysOfTheRecordsAndOfMissingFilesWhatThePackShows) {
   Pack& pack = StartPack();
   pack.ChooseMenu({"Game", "Check Record File"});
   const std::string records = gameFolder() + "\\highscore.cfg";
-  EXPECT_EQ(Check(records).output, LineOf(pack.AnswerBox(), records));
+  EXPECT_EQ(Check(records).said, LineOf(pack.AnswerBox(), records));
   pack.WaitForMain();
   const std::string missing = gameFolder() + "\\vehicles\\nowhere.vhc";
-  const Said said = Check(missing);
-  EXPECT_EQ(said.output, LineOf(Show(pack, missing, false), missing));
+  const ConsoleOutcome said = Check(missing);
+  EXPECT_EQ(said.said, LineOf(Show(pack, missing, false), missing));
   EXPECT_EQ(said.status, 2u);
 }
 

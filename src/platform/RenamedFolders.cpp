@@ -1,6 +1,7 @@
 #include "platform/RenamedFolders.h"
 
 #include "base/RuntimeError.h"
+#include "platform/FileFailure.h"
 #include "platform/Files.h"
 #include "platform/ServedFolder.h"
 
@@ -14,6 +15,18 @@ std::string Previous(const std::string& site) {
 }
 
 }  // namespace
+
+Lock::Lock(const std::string& site) : path_(site + "\\lock.sk2") {
+  // One that an ended program has left can be removed, one that is held cannot.
+  if (FileExists(path_)) RemoveFile(path_);
+  Require(file_.Open(path_, OpenFile::How::New), path_, FileStep::Writing);
+}
+
+Lock::~Lock() {
+  file_.Close();
+  // If that fails, the next one does it.
+  FileCalls::Delete(path_);
+}
 
 std::string Next(const std::string& site) {
   return site + "\\next.sk2";

@@ -8,6 +8,7 @@
 // leaves a site without "current", which the next run puts right before it does anything else.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,24 @@ std::string ServedFolder(const std::string& site);
 
 // Where the next state of the site is to be made. It changes with each exchange.
 std::string NextServedFolder(const std::string& site);
+
+// Keeps other programs from exchanging the same site while it lives: two at once would make the
+// next state of both their files.
+class SiteLock {
+ public:
+  //   site  must be there.
+  // Fails with PermissionDenied if another program has it, and as RemoveFile does.
+  explicit SiteLock(const std::string& site);
+  ~SiteLock();
+  SiteLock(const SiteLock&) = delete;
+  SiteLock& operator=(const SiteLock&) = delete;
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+// What follows is for whoever has the lock.
 
 // Makes good what an exchange that was cut off has left. Returns the paths of the folders in the
 // site that are not served, and that nobody needs: what has been served before, and what was to be.

@@ -12,7 +12,7 @@ FileSum SumOfText(std::string_view bytes) {
 }
 
 FileSum SumOfFile(const std::string& path) {
-  constexpr size_t BlockSize = size_t{1} << 18;
+  constexpr size_t BlockSize = size_t{1} << 16;
   Platform::FileReader file(path);
   std::vector<char> block(BlockSize);
   Sha256 sum;

@@ -38,20 +38,19 @@ Report Publish(const std::string& folder, const std::string& site) {
   }
   // First, so that a site that an ended run has left without a state has one again, even if nothing
   // is published now.
-  SiteState::CleanUp(site);
+  SiteState state(site);
   Report report;
   report.contents = Catalogue::Read(folder, report.faults);
   CatalogueRules::JudgeDisplayNames(report.contents, report.faults);
   CatalogueRules::JudgeVersions(
-      report.contents, SiteState::ServedText(site, SiteFiles::PathOf(Versions::RecordsPath)),
-      report.faults);
+      report.contents, state.ServedText(SiteFiles::PathOf(Versions::RecordsPath)), report.faults);
   JudgeArchives(folder, report.contents, report.faults);
   const SiteFiles::Files files = SiteFiles::Of(folder, report.contents, report.faults);
   if (!report.faults.empty()) return report;
-  if (SiteState::IsServed(site, files)) {
+  if (state.IsServed(files)) {
     report.outcome = Outcome::Unchanged;
   } else {
-    SiteState::Serve(site, files);
+    state.Serve(files);
     report.outcome = Outcome::Published;
   }
   return report;

@@ -6,10 +6,7 @@
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
-#include "platform/ServedFolder.h"
 #include "tools/FolderTree.h"
-
-namespace SiteState {
 
 namespace {
 
@@ -26,30 +23,31 @@ void Write(const std::string& path, const SiteFiles::SiteFile& file) {
 
 }  // namespace
 
-bool IsServed(const std::string& site, const SiteFiles::Files& files) {
-  const std::string served = Platform::ServedFolder(site);
-  const std::vector<std::string> there = FolderTree::FilesIn(served);
+SiteState::SiteState(const std::string& site) : site_(site), served_(Platform::ServedFolder(site)) {
+  if (Platform::FileExists(site)) Take();
+}
+
+bool SiteState::IsServed(const SiteFiles::Files& files) const {
+  const std::vector<std::string> there = FolderTree::FilesIn(served_);
   const auto isAt = [](const std::string& path, const auto& file) { return path == file.first; };
   if (!std::ranges::equal(there, files, isAt)) return false;
   return std::ranges::all_of(files, [&](const auto& file) {
-    const auto stamp = Platform::StampOf(served + "\\" + file.first);
-    return stamp && stamp->size == file.second.sum.size &&
-           SumOfFile(served + "\\" + file.first) == file.second.sum;
+    const std::string path = served_ + "\\" + file.first;
+    const auto stamp = Platform::StampOf(path);
+    return stamp && stamp->size == file.second.sum.size && SumOfFile(path) == file.second.sum;
   });
 }
 
-std::string ServedText(const std::string& site, const std::string& path) {
-  return Platform::ReadWholeFile(Platform::ServedFolder(site) + "\\" + path).value_or("");
+std::string SiteState::ServedText(const std::string& path) const {
+  return Platform::ReadWholeFile(served_ + "\\" + path).value_or("");
 }
 
-void CleanUp(const std::string& site) {
-  for (const std::string& folder : Platform::UnservedFolders(site)) FolderTree::Remove(folder);
-}
-
-void Serve(const std::string& site, const SiteFiles::Files& files) {
-  FolderTree::Make(site);
-  CleanUp(site);
-  const std::string next = Platform::NextServedFolder(site);
+void SiteState::Serve(const SiteFiles::Files& files) {
+  if (!lock_) {
+    FolderTree::Make(site_);
+    Take();
+  }
+  const std::string next = Platform::NextServedFolder(site_);
   std::set<std::string> folders;
   for (const auto& [path, file] : files) {
     const std::string target = next + "\\" + path;
@@ -57,12 +55,19 @@ void Serve(const std::string& site, const SiteFiles::Files& files) {
     if (folders.insert(folder).second) FolderTree::Make(folder);
     Write(target, file);
   }
-  Platform::ServeNextFolder(site);
+  Platform::ServeNextFolder(site_);
   try {
-    CleanUp(site);
+    CleanUp();
   } catch (const RuntimeError&) {
     // It is published, and that is what is told. The next run removes what is left.
   }
 }
 
-}  // namespace SiteState
+void SiteState::Take() {
+  lock_.emplace(site_);
+  CleanUp();
+}
+
+void SiteState::CleanUp() const {
+  for (const std::string& folder : Platform::UnservedFolders(site_)) FolderTree::Remove(folder);
+}

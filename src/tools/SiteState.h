@@ -2,27 +2,37 @@
 // for them as a whole (platform/ServedFolder.h).
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "platform/ServedFolder.h"
 #include "tools/SiteFiles.h"
 
-namespace SiteState {
+class SiteState {
+ public:
+  // Takes the site for itself while it lives, makes good what an ended run left there, and removes
+  // what nobody needs. Changes nothing where nothing is left, and makes no site. Fails as
+  // Platform::SiteLock, UnservedFolders and FolderTree::Remove do.
+  explicit SiteState(const std::string& site);
 
-// True if what is served is exactly these files, byte for byte. Changes nothing. Fails as
-// Platform::ListFolder and FileReader do.
-bool IsServed(const std::string& site, const SiteFiles::Files& files);
+  // True if what is served is exactly these files, byte for byte. Fails as Platform::ListFolder and
+  // FileReader do.
+  bool IsServed(const SiteFiles::Files& files) const;
 
-// The bytes of a served file; empty if it is not there. Fails as Platform::ReadWholeFile does.
-std::string ServedText(const std::string& site, const std::string& path);
+  // The bytes of a served file; empty if it is not there. Fails as Platform::ReadWholeFile does.
+  std::string ServedText(const std::string& path) const;
 
-// Makes good what an ended run left and removes what nobody needs. Changes nothing where nothing is
-// left. Fails as Platform::UnservedFolders and FolderTree::Remove do.
-void CleanUp(const std::string& site);
+  // Makes the files beside what is served and then serves them in its place. After a failure what
+  // was served is served still; what was served before may stay beside it until the next run. Fails
+  // as Platform::FileWriter and ServeNextFolder do; with RuntimeError InvalidCall if a file is not
+  // what it was when it was judged.
+  void Serve(const SiteFiles::Files& files);
 
-// Makes the files beside what is served and then serves them in its place. After a failure what was
-// served is served still; what was served before may stay beside it until the next run. Fails as
-// Platform::FileWriter and ServeNextFolder do; with RuntimeError InvalidCall if a file is not what
-// it was when it was judged.
-void Serve(const std::string& site, const SiteFiles::Files& files);
+ private:
+  void Take();
+  void CleanUp() const;
 
-}  // namespace SiteState
+  std::string site_;
+  std::string served_;
+  std::optional<Platform::SiteLock> lock_;
+};

@@ -14,11 +14,14 @@ using testing::IsEmpty;
 
 using State = std::map<std::string, std::string>;
 
+// Little of it, since each call of the system is swept over.
+void PutSmallOffer(Machine& machine) {
+  machine.files.Put(Folder + "\\tracks\\marsh.zip", Track("marsh"));
+  machine.files.Put(Folder + "\\langs\\Francais.zip", Language());
+}
 void ChangeOffer(Machine& machine) {
-  machine.files.Put(Folder + "\\cars\\cricket.zip", Car("cricket", "another horn"));
-  machine.files.Put(Folder + "\\cars\\rocket.zip", Car("rocket"));
-  machine.files.Delete(Folder + "\\pages\\pictures\\car.png");
-  machine.files.Put(Folder + "\\software\\versions.txt", "sk2up=1.3.0\n");
+  machine.files.Put(Folder + "\\tracks\\marsh.txt", "The Marsh");
+  machine.files.Delete(Folder + "\\langs\\Francais.zip");
 }
 
 State ServedAfter(const std::function<void(Machine&)>& prepare) {
@@ -30,14 +33,14 @@ State ServedAfter(const std::function<void(Machine&)>& prepare) {
 
 class PublishingSweep : public testing::Test {
  protected:
-  const State before = ServedAfter(PutOffer);
+  const State before = ServedAfter(PutSmallOffer);
   const State after = ServedAfter([](Machine& machine) {
-    PutOffer(machine);
+    PutSmallOffer(machine);
     ChangeOffer(machine);
   });
 
   static void PublishAndChange(Machine& machine) {
-    PutOffer(machine);
+    PutSmallOffer(machine);
     ASSERT_EQ(Publish().status, PublishCommand::Done);
     ChangeOffer(machine);
   }
@@ -65,7 +68,7 @@ TEST_F(PublishingSweep, WhateverFailsOneOfTheTwoStatesIsServed) {
     EXPECT_EQ(Served(machine), told.status == PublishCommand::Done ? after : before);
     ExpectNextRunPublishes(machine);
   });
-  EXPECT_GT(calls.size(), 100U);
+  EXPECT_GT(calls.size(), 80U);
 }
 
 TEST_F(PublishingSweep, WhereverItIsEndedOneOfTheTwoStatesIsServed) {
@@ -90,14 +93,14 @@ TEST_F(PublishingSweep, WhereverItIsEndedOneOfTheTwoStatesIsServed) {
     ExpectNextRunPublishes(machine);
     if (endedAt.empty() || HasFailure()) break;
   }
-  EXPECT_GT(ends, 100);
+  EXPECT_GT(ends, 80);
 }
 
 TEST_F(PublishingSweep, WhereverTheFirstRunIsEndedNothingIsServedHalf) {
   int ends = 0;
   for (;; ++ends) {
     Machine machine;
-    PutOffer(machine);
+    PutSmallOffer(machine);
     machine.faults.EndProgramAtFileCall(After{ends});
     Publish();
     const std::string endedAt = machine.faults.EndedAt();
@@ -108,7 +111,7 @@ TEST_F(PublishingSweep, WhereverTheFirstRunIsEndedNothingIsServedHalf) {
     ExpectNextRunPublishes(machine);
     if (endedAt.empty() || HasFailure()) break;
   }
-  EXPECT_GT(ends, 50);
+  EXPECT_GT(ends, 40);
 }
 
 TEST_F(PublishingSweep, OfARunThatIsRefusedNothingIsChanged) {
@@ -117,15 +120,14 @@ TEST_F(PublishingSweep, OfARunThatIsRefusedNothingIsChanged) {
     Machine machine;
     PublishAndChange(machine);
     machine.files.Put(Folder + "\\cars\\stray.rar", "");
-    const auto site = Tree(machine, Site);
     machine.faults.EndProgramAtFileCall(After{ends});
     Publish();
     const bool wasEnded = !machine.faults.EndedAt().empty();
     machine.StartAnew();
-    EXPECT_EQ(Tree(machine, Site), site);
+    EXPECT_EQ(Served(machine), before);
     if (!wasEnded || HasFailure()) break;
   }
-  EXPECT_GT(ends, 20);
+  EXPECT_GT(ends, 10);
 }
 
 }  // namespace

@@ -360,7 +360,6 @@ TEST_F(Publishing, RefusesFoldersWhereFilesBelong) {
 TEST_F(Publishing, RefusesArchivesThatThePackWouldNotUnpack) {
   for (const ArchiveCorpus::Hostile& hostile : ArchiveCorpus::HostileArchives()) {
     SCOPED_TRACE(hostile.what);
-    PublishFirst();
     Put("langs\\hostile.zip", hostile.bytes);
     const Told told = Publish();
     EXPECT_EQ(told.status, PublishCommand::Refused);
@@ -448,6 +447,19 @@ TEST_F(Publishing, AFileThatCannotBeReadIsAFailure) {
   EXPECT_THAT(told.errors, HasSubstr("coach.zip"));
   EXPECT_EQ(Tree(machine, Site), before);
   machine.files.Release(Folder + "\\cars\\coach.zip");
+}
+
+TEST_F(Publishing, WaitsForNoOtherRunAndDisturbsNone) {
+  PublishFirst();
+  Put("cars\\new.zip", Car("new"));
+  machine.files.Put(Site + "\\lock.sk2", "");
+  machine.files.Hold(Site + "\\lock.sk2");
+  const auto before = Tree(machine, Site);
+  EXPECT_EQ(Publish().status, PublishCommand::Failed);
+  EXPECT_EQ(Tree(machine, Site), before);
+  machine.files.Release(Site + "\\lock.sk2");
+  PublishFirst();
+  EXPECT_THAT(machine.files.Names(Site), ElementsAre("current"));
 }
 
 TEST_F(Publishing, AFullDiskIsAFailure) {

@@ -3,6 +3,7 @@
 #include "platform/ServedFolder.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -58,6 +59,25 @@ SystemError FlushDiskOf(const std::string& place) {
 }
 
 }  // namespace
+
+// The folder itself is locked: so nothing is written where nothing has changed.
+struct SiteLock::State {
+  explicit State(int folder) : descriptor(folder) {}
+  ~State() { close(descriptor); }
+  State(const State&) = delete;
+  State& operator=(const State&) = delete;
+  int descriptor;
+};
+
+SiteLock::SiteLock(const std::string& site) {
+  const int folder = open(PlaceOf(site).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  Require(Posix::ResultOf(folder), site, FileStep::Opening);
+  state_ = std::make_unique<State>(folder);
+  if (flock(folder, LOCK_EX | LOCK_NB) != 0)
+    throw RuntimeError(RuntimeError::PermissionDenied, site);
+}
+
+SiteLock::~SiteLock() = default;
 
 std::string NextServedFolder(const std::string& site) {
   return site + "\\" + (ServedState(site) == States[0] ? States[1] : States[0]);

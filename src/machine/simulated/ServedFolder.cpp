@@ -15,6 +15,18 @@ void FailIfStruck(const char* call, const std::string& site) {
 
 }  // namespace
 
+struct SiteLock::State {
+  explicit State(const std::string& site) : lock(site) {}
+  RenamedFolders::Lock lock;
+};
+
+SiteLock::SiteLock(const std::string& site) {
+  FailIfStruck("SiteLock", site);
+  state_ = std::make_unique<State>(site);
+}
+
+SiteLock::~SiteLock() = default;
+
 std::string NextServedFolder(const std::string& site) {
   return RenamedFolders::Next(site);
 }

@@ -4,6 +4,17 @@
 
 namespace Platform {
 
+struct SiteLock::State {
+  explicit State(const std::string& site) : lock(site) {}
+  RenamedFolders::Lock lock;
+};
+
+SiteLock::SiteLock(const std::string& site) {
+  state_ = std::make_unique<State>(site);
+}
+
+SiteLock::~SiteLock() = default;
+
 std::string NextServedFolder(const std::string& site) {
   return RenamedFolders::Next(site);
 }
