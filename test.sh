@@ -72,7 +72,7 @@ machine_suites() {
   gtest_share "the shipped program" "$1" "$machines" \
     wine out/windows/e2e/e2e-tests.exe --pack=out/windows/pack --versions=out/windows/versions \
     --demo=demo --pictures=out/e2e/pictures "--speakers=out/e2e/machine-$1/speakers.raw" \
-    "--web=out/e2e/machine-$1/web"
+    "--web=out/e2e/machine-$1/web" --installer=out/windows/sk2up.exe
   if [ "$1" = 1 ]; then
     check_suite "sk2check natively and on Windows" scripts/same-verdicts.sh
     check_suite bench-start wine out/windows/bench/start/bench-start.exe --brief \

@@ -31,3 +31,19 @@ if(TARGET help-file)
   list(APPEND staged help-file)
 endif()
 sk2_installer(installer ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/pack ${CMAKE_BINARY_DIR}/sk2up.exe ${staged})
+
+# For the tests: the next version with a language besides English, its installer, and one that says of
+# itself to be of another version than what is in it.
+math(EXPR next_revision "${PROJECT_VERSION_PATCH} + 1")
+set(next ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.${next_revision})
+sk2_pack(sk2next ${next} "Skidrun2 Utility Pack")
+set_target_properties(sk2next PROPERTIES OUTPUT_NAME sk2pack RUNTIME_OUTPUT_DIRECTORY ${versions}/next)
+add_dependencies(sk2next ${staged})
+# Before its own program comes to the rest of the folder.
+add_custom_command(TARGET sk2next PRE_LINK
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_BINARY_DIR}/pack ${versions}/next
+  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/e2e/languages/Deutsch.lng ${versions}/next/languages/Deutsch.lng)
+sk2_installer(next-installer ${next} ${versions}/next ${versions}/sk2up-next.exe sk2next)
+math(EXPR false_revision "${PROJECT_VERSION_PATCH} + 2")
+sk2_installer(false-installer ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}.${false_revision}
+  ${versions}/next ${versions}/sk2up-false.exe sk2next)

@@ -35,7 +35,8 @@ int main(int count, char** arguments) {
                          TakeOption(argument, "demo", given.demo) ||
                          TakeOption(argument, "pictures", given.pictures) ||
                          TakeOption(argument, "speakers", given.speakers) ||
-                         TakeOption(argument, "web", given.web);
+                         TakeOption(argument, "web", given.web) ||
+                         TakeOption(argument, "installer", given.installer);
     if (!isKnown) {
       std::fprintf(stderr, "unknown option %s\n", arguments[i]);
       return 2;
@@ -45,9 +46,11 @@ int main(int count, char** arguments) {
       given.pictures.empty()) {
     std::fprintf(stderr,
                  "usage: e2e-tests --pack=FOLDER --versions=FOLDER --demo=FOLDER "
-                 "--pictures=FOLDER [--speakers=FILE] [--web=FOLDER]\n");
+                 "--pictures=FOLDER [--speakers=FILE] [--web=FOLDER] [--installer=FILE]\n");
     return 2;
   }
+  // Where the build puts it.
+  if (given.installer.empty()) given.installer = given.pack + "\\..\\sk2up.exe";
   std::filesystem::create_directories(given.pictures);
   return RUN_ALL_TESTS();
 }

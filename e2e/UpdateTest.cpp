@@ -1,6 +1,7 @@
 // The check for updates against a server of the tests' own, and the update that it leads to.
 #include "e2e/driver/Keyboard.h"
 #include "e2e/driver/PackTest.h"
+#include "e2e/driver/Setup.h"
 #include "e2e/driver/StartedProgram.h"
 #include "e2e/driver/WebServer.h"
 
@@ -174,6 +175,95 @@ TEST_F(Update, AtTheStartEndsThePackBeforeItComes) {
   Keyboard::Press("Y");
   EXPECT_EQ(program.WaitForEnd(), 0U);
   EXPECT_TRUE(StartOf(updater()).isMinimised);
+}
+
+// --- With the installer itself, from one version to the next ---
+
+class InstalledUpdate : public Update {
+ protected:
+  InstalledUpdate() {
+    UninstallQuietly();
+    RunningProgram(Given().installer, "/S /D=" + folder_).WaitForEnd();
+    WriteFile(folder_ + "\\sk2pack.lng", "XFile=&Mine\r\n");
+    WriteFile(folder_ + "\\sk2pack.cfg", "!\r\n");
+    WriteFile(folder_ + "\\iplist.dat", "Here=203.0.113.7\r\n");
+    Publish(ShortVersionOf(NextInstaller()));
+    pack_ = std::make_unique<Pack>(program());
+  }
+  void TearDown() override {
+    Update::TearDown();
+    pack_.reset();
+    UninstallQuietly();
+  }
+
+  std::string program() const { return folder_ + "\\sk2pack.exe"; }
+  std::string fetched() const { return folder_ + "\\orvsk2packupdater.exe"; }
+
+  // Asks for the update from the menu.
+  void TakeTheUpdate() {
+    pack_->ChooseMenu({"Help", "Check for Updates"});
+    EXPECT_EQ(pack_->AnswerBox("Y"), Prompt());
+  }
+  void ExpectSettings() const {
+    EXPECT_THAT(ReadFile(folder_ + "\\sk2pack.lng"), testing::StartsWith("XFile=&Mine\r\n"));
+    EXPECT_EQ(ReadFile(folder_ + "\\sk2pack.cfg"), "!\r\n");
+    EXPECT_EQ(ReadFile(folder_ + "\\iplist.dat"), "Here=203.0.113.7\r\n");
+  }
+
+  std::string folder_ = scratch.path() + "\\Installed Pack";
+  std::unique_ptr<Pack> pack_;
+};
+
+TEST_F(InstalledUpdate, EndsInTheNextVersionWithTheUsersSettings) {
+  server.Serve(Installer, ReadFile(NextInstaller()));
+  TakeTheUpdate();
+  EXPECT_EQ(pack_->program().WaitForEnd(), 0U);
+  pack_ = std::make_unique<Pack>(RunningProgram::StartedByOthers{program()});
+  const Window main = pack_->WaitForMain();
+  EXPECT_EQ(main.text(), "Skidrun2 Utility Pack V1.0.1");
+  EXPECT_EQ(ReadMenu(main).at(0).caption, "&Mine");
+  ExpectSettings();
+  EXPECT_EQ(InstalledEntry::Text("DisplayVersion"), ShortVersionOf(NextInstaller()));
+  WaitUntil("the updater gone", [&] { return !Exists(fetched()); });
+  // It is the newest one now.
+  pack_->ChooseMenu({"Help", "Check for Updates"});
+  EXPECT_EQ(
+      pack_->AnswerBox(),
+      Information("Information", "You are currently running the latest version of this product."));
+}
+
+// The server says that it sends all, and ends half way.
+TEST_F(InstalledUpdate, ThatCameInPartLeavesTheOldVersionInOrder) {
+  const auto before = ReadFile(program());
+  const std::string whole = ReadFile(NextInstaller());
+  server.Serve(Installer, whole.substr(0, whole.size() / 2));
+  TakeTheUpdate();
+  EXPECT_EQ(pack_->program().WaitForEnd(), 0U);
+  // What came says of itself that it is incomplete.
+  const RunningProgram installer(RunningProgram::StartedByOthers{fetched()});
+  const Window box = FirstBox(installer);
+  EXPECT_THAT(ReadBox(box).text, testing::HasSubstr("incomplete"));
+  SavePictureOf(box.rectangle(), "half an installer");
+  Keyboard::Press("Enter");
+  EXPECT_EQ(installer.WaitForEnd(), 2U);
+  EXPECT_EQ(ReadFile(program()), before);
+  ExpectSettings();
+  // The next start takes it away.
+  pack_ = std::make_unique<Pack>(program());
+  EXPECT_EQ(pack_->WaitForMain().text(), "Skidrun2 Utility Pack V1.0");
+  EXPECT_FALSE(Exists(fetched()));
+}
+
+TEST_F(InstalledUpdate, WhoseConnectionBreaksIsToldAndThePackStays) {
+  const auto before = ReadFile(program());
+  WebAnswer half = WebAnswer::Page(ReadFile(NextInstaller()));
+  half.resetBehind = half.body.size() / 2;
+  server.Answer(Installer, half);
+  TakeTheUpdate();
+  EXPECT_THAT(pack_->AnswerBox().text, testing::StartsWith("The program could not be started."));
+  pack_->WaitForMain();
+  EXPECT_EQ(ReadFile(program()), before);
+  ExpectSettings();
 }
 
 }  // namespace

@@ -10,9 +10,11 @@ Var LogLine
   Call Log
 !macroend
 
-; The details on the progress page say the same.
+; The progress page says the same.
 Function Log
+  SetDetailsPrint both
   DetailPrint "$LogLine"
+  SetDetailsPrint none
   Push $0
   FileOpen $0 "$LogPath" a
   FileSeek $0 0 END
@@ -32,7 +34,7 @@ Function OpenLog
   ${EndIf}
   FileClose $0
   ${GetTime} "" "L" $0 $1 $2 $3 $4 $5 $6
-  ${Log} "$2-$1-$0 $4:$5 ${PRODUCT} ${VERSION} to $INSTDIR"
+  ${Log} "Installing ${PRODUCT} ${VERSION} in $INSTDIR, $2-$1-$0 $4:$5"
 FunctionEnd
 
 Function CloseLog

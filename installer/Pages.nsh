@@ -1,25 +1,33 @@
 ; The pages: the folder, the language of the texts, the progress, and the end. Each names itself in the
 ; title of the window, since some screen readers read nothing else of such pages.
 
-Page directory SkipIfQuiet "" LeaveDirectory
+Page directory SkipIfQuiet NameTheFolder LeaveDirectory
 !ifdef HAS_LANGUAGES
   Page custom ShowLanguages LeaveLanguages ": Language of the Texts"
 !endif
 Page instfiles
-Page custom ShowEnd LeaveEnd ": Completed"
+Page custom ShowEnd LeaveEnd ": Finished"
 
 UninstPage uninstConfirm
 UninstPage instfiles
 
 DirText "The pack will be installed in the following folder, where it also keeps its texts and settings. It must be a folder that you may write to."
-SubCaption 1 ": Folder"
-SubCaption 3 ": Installing"
-SubCaption 4 ": Installed"
 
 Function SkipIfQuiet
   ${If} $IsQuiet = 1
     Abort
   ${EndIf}
+FunctionEnd
+
+; A screen reader takes the name of a box from what stands directly before it.
+Function NameTheFolder
+  FindWindow $0 "#32770" "" $HWNDPARENT
+  GetDlgItem $1 $0 1020 ; "Destination Folder"
+  GetDlgItem $2 $0 1019 ; the folder
+  GetDlgItem $3 $0 1001 ; "Browse..."
+  ; Nothing moves on the screen.
+  System::Call 'user32::SetWindowPos(p r2, p r1, i 0, i 0, i 0, i 0, i 0x13)'
+  System::Call 'user32::SetWindowPos(p r3, p r2, i 0, i 0, i 0, i 0, i 0x13)'
 FunctionEnd
 
 Function LeaveDirectory

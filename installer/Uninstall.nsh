@@ -1,7 +1,6 @@
 ; Removing the pack. The user's own files stay, and the user is told so.
 
 UninstallText "The pack will be removed from the following folder. Your own files stay there: the pack's texts (${PROGRAM}.lng), its settings (${PROGRAM}.cfg) and your list of servers (iplist.dat)."
-UninstallSubCaption 0 ": Confirmation"
 
 Function un.onInit
   StrCpy $Program "${PROGRAM}"
@@ -27,7 +26,8 @@ FunctionEnd
 
 Section un.
   SetAutoClose true
-  StrCpy $2 100
+  ; Asked quietly, it waits for three seconds.
+  StrCpy $2 30
   ${Do}
     Call un.IsProgramHeld
     ${If} $0 = 0

@@ -45,6 +45,8 @@ BrandingText "${MAKER}"
 OutFile "${OUTPUT}"
 Icon "${ICON}"
 UninstallIcon "${ICON}"
+; The colours that the user has chosen for all windows.
+InstallColors /windows
 ShowInstDetails show
 ShowUninstDetails show
 
@@ -107,6 +109,8 @@ Section
   ${EndIf}
   AddSize ${SIZE_KB}
   SetAutoClose true
+  ; What is shown is what the log says.
+  SetDetailsPrint none
   Call OpenLog
   Call WaitForPack
   Call Unpack

@@ -3,7 +3,7 @@
 # The packages that building and running the pack takes, those of its makers, and those that its
 # tests take besides.
 pack_packages=(cmake ninja-build g++ zlib1g-dev g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest
-  fp-utils wine wine64 fonts-wine fonts-dejavu-core xvfb pulseaudio-utils nginx-light python3)
+  fp-utils wine wine64 fonts-wine fonts-dejavu-core xvfb pulseaudio-utils nginx-light nsis python3)
 # Publishing, and serving what was published.
 server_packages=(cmake ninja-build g++ zlib1g-dev nginx-light)
 test_packages=(libgtest-dev libgmock-dev clang libclang-rt-dev clang-format clang-tidy

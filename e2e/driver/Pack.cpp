@@ -25,6 +25,10 @@ Pack::Pack(const std::string& programPath) : program_(programPath) {
   WaitForMain();
 }
 
+Pack::Pack(const RunningProgram::StartedByOthers& other) : program_(other) {
+  WaitForMain();
+}
+
 bool Pack::IsInFront(const Window& window) const {
   return window.IsForeground() && window.IsVisible() && window.IsEnabled() &&
          window.processId() == program_.processId() && window.focus().has_value();

@@ -21,8 +21,11 @@ class Pack {
  public:
   // Starts the program and waits for its main window.
   explicit Pack(const std::string& programPath);
+  // Takes over the one that another program starts.
+  explicit Pack(const RunningProgram::StartedByOthers& other);
 
   RunningProgram& program() { return program_; }
+  const RunningProgram& program() const { return program_; }
 
   // Waits until the main window is in front and takes input.
   Window WaitForMain();

@@ -8,12 +8,13 @@ namespace E2e {
 
 // Where things are, as the program was told on its command line.
 struct Places {
-  std::string pack;      // the staged program
-  std::string versions;  // the same program under other version numbers
-  std::string demo;      // the demo game
-  std::string pictures;  // where the pictures of the windows go
-  std::string speakers;  // the file of Recording; empty if nobody records them
-  std::string web;       // the folder of ServedFile
+  std::string pack;       // the staged program
+  std::string versions;   // the same program under other version numbers, and installers of it
+  std::string demo;       // the demo game
+  std::string pictures;   // where the pictures of the windows go
+  std::string speakers;   // the file of Recording; empty if nobody records them
+  std::string web;        // the folder of ServedFile
+  std::string installer;  // sk2up.exe
 };
 Places& Given();
 

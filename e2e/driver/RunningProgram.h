@@ -1,4 +1,4 @@
-// A program that a test started.
+// A program that a test started, or has found running.
 #pragma once
 
 #include <windows.h>
@@ -9,8 +9,18 @@ namespace E2e {
 
 class RunningProgram {
  public:
-  // Starts it in its own folder, without arguments. Throws std::runtime_error if that fails.
-  explicit RunningProgram(const std::string& path);
+  // How its first window is to be shown.
+  enum class Shown { Normally, Minimised };
+
+  // Starts it in its own folder. Throws std::runtime_error if that fails.
+  //   arguments  what stands behind the program in its command line.
+  explicit RunningProgram(const std::string& path, const std::string& arguments = "",
+                          Shown shown = Shown::Normally);
+  // One that another program starts: waits until it runs, and has its main thread told by a window.
+  struct StartedByOthers {
+    std::string path;
+  };
+  explicit RunningProgram(const StartedByOthers& other);
   // Ends it, if it still runs.
   ~RunningProgram();
   RunningProgram(const RunningProgram&) = delete;
@@ -30,5 +40,8 @@ class RunningProgram {
  private:
   PROCESS_INFORMATION process_{};
 };
+
+// True if a program of that file runs.
+bool IsRunning(const std::string& path);
 
 }  // namespace E2e

@@ -167,14 +167,28 @@ void RenameFile(const std::string& from, const std::string& to) {
   Require(error, isAboutTheNewName ? to : from, FileStep::Renaming);
 }
 
-bool RemoveFile(const std::string& path) {
-  CheckName(path);
-  const SystemError error = FileCalls::Delete(path);
+namespace {
+
+// What came of deleting a file, as RemoveFile tells it.
+bool IsRemoved(SystemError error, const std::string& path) {
   if (IsMissing(error)) return false;
   Require(error, path, FileStep::Deleting);
   // What it held must not come back for the next file of that name.
   ForgetInterruptedSave(path);
   return true;
+}
+
+}  // namespace
+
+bool RemoveFile(const std::string& path) {
+  CheckName(path);
+  return IsRemoved(FileCalls::Delete(path), path);
+}
+
+bool RemoveFileOfEndingProgram(const std::string& path) {
+  CheckName(path);
+  // The system calls a program that runs not in use, but forbidden.
+  return IsRemoved(Patiently([&] { return FileCalls::Delete(path); }, IsInUseForReplacing), path);
 }
 
 bool MakeFolder(const std::string& path) {

@@ -158,6 +158,10 @@ void RenameFile(const std::string& from, const std::string& to);
 // PermissionDenied (in use), PathFileAccess (read-only, a folder).
 bool RemoveFile(const std::string& path);
 
+// The same for the file of a program that is about to end, and is held by the system until then: it
+// is tried again for up to a second.
+bool RemoveFileOfEndingProgram(const std::string& path);
+
 // Makes a folder in one that is there. False if it is there already. Fails with PathNotFound,
 // PermissionDenied, PathFileAccess (a file of that name).
 bool MakeFolder(const std::string& path);

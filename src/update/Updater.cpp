@@ -53,7 +53,8 @@ std::string UpdaterPath() {
 }
 
 void RemoveLeftOverUpdater() {
-  Platform::RemoveFile(UpdaterPath());
+  // The installer starts the new version as the last thing that it does.
+  Platform::RemoveFileOfEndingProgram(UpdaterPath());
 }
 
 std::string GetVersionRecord(const std::string& url, const std::string& product,

@@ -9,8 +9,8 @@ namespace Updater {
 // "updater.exe" in the program folder, with nothing between the three.
 std::string UpdaterPath();
 
-// Deletes an installer that an earlier update has left. A missing one is no failure. Fails as
-// Platform::RemoveFile does.
+// Deletes an installer that an earlier update has left, and that may just be ending. A missing one
+// is no failure. Fails as Platform::RemoveFileOfEndingProgram does.
 void RemoveLeftOverUpdater();
 
 // Looks on the maker's server for a newer version of the pack, and if there is one and the user

@@ -124,6 +124,15 @@ TEST_F(StartUpStory, ALeftOverUpdaterIsDeleted) {
   EXPECT_FALSE(machine.files.Exists(Updater));
 }
 
+// The installer starts the new version, and then ends.
+TEST_F(StartUpStory, ALeftOverUpdaterThatIsJustEndingIsDeleted) {
+  machine.files.Put(Updater, "installer");
+  machine.files.Hold(Updater);
+  machine.files.ReleaseAfterWaits(Updater, 3);
+  StartPack();
+  EXPECT_FALSE(machine.files.Exists(Updater));
+}
+
 TEST_F(StartUpStory, ALeftOverUpdaterThatStillRunsIsLeft) {
   machine.files.Put(Updater, "installer");
   machine.files.Hold(Updater);

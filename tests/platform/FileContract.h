@@ -21,6 +21,7 @@ using Platform::ListFolder;
 using Platform::MakeFolder;
 using Platform::ReadWholeFile;
 using Platform::RemoveFile;
+using Platform::RemoveFileOfEndingProgram;
 using Platform::RemoveFolder;
 using Platform::RenameFile;
 using Platform::StampOf;

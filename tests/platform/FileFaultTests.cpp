@@ -95,6 +95,7 @@ const std::map<std::string, std::function<bool()>>& Services() {
          return false;
        }},
       {"RemoveFile", [] { return !RemoveFile(Path); }},
+      {"RemoveFileOfEndingProgram", [] { return !RemoveFileOfEndingProgram(Path); }},
       {"MakeFolder", [] { return !MakeFolder("C:\\tracks"); }},
       {"RemoveFolder", [] { return !RemoveFolder("C:\\empty"); }},
       {"FreeSpaceIn", [] { return FreeSpaceIn("C:") == 0; }},

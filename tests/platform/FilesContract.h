@@ -353,6 +353,13 @@ TEST_F(FilesContract, RemovesAHiddenFile) {
   EXPECT_TRUE(RemoveFile(In("hill.trk")));
 }
 
+TEST_F(FilesContract, RemovesTheFileOfAProgramThatHasEnded) {
+  TestMachine::PutFile(In("updater.exe"), "1");
+  EXPECT_TRUE(RemoveFileOfEndingProgram(In("updater.exe")));
+  EXPECT_FALSE(RemoveFileOfEndingProgram(In("updater.exe")));
+  EXPECT_TRUE(TestMachine::NamesIn(folder).empty());
+}
+
 // --- FileReader ---
 
 TEST_F(FilesContract, ReadsPieceByPiece) {
