@@ -100,8 +100,8 @@ std::string IndexFile(const Pages& pages) {
 std::string CompilerProject() {
   std::string project =
       "[OPTIONS]\n"
-      // In their binary forms the compiler writes bytes that no two runs have alike. The viewer reads
-      // the files themselves.
+      // In their binary forms the compiler writes bytes that no two runs have alike. The viewer
+      // reads the files themselves.
       "Binary Index=No\n"
       "Binary TOC=No\n"
       "Compatibility=1.1 or later\n"
