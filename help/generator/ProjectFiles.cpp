@@ -22,7 +22,7 @@ std::string FirstMatch(const std::string& text, const char* pattern) {
 
 // As it stands in the page, "&amp;" and all.
 std::string TitleOf(const std::string& name, const std::string& page) {
-  const std::string title = FirstMatch(page, "<title>([^<]*)</title>");
+  std::string title = FirstMatch(page, "<title>([^<]*)</title>");
   if (title.empty()) throw std::runtime_error(name + " has no title");
   return title;
 }
