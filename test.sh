@@ -23,6 +23,7 @@ build_suite fuzz
 build_suite bench
 in_background fuzz_suites out/fuzz/fuzz
 gtest_suite "tests on the simulated machine" out/host/tests/sk2tests
+check_suite "what is delivered" python3 scripts/check-delivery.py out/windows
 gtest_suite "contracts on the machine of the console programs" out/host/tests/posix-contracts
 wait_for_background
 bench_suites out/bench/bench

@@ -7,6 +7,7 @@ file(GLOB_RECURSE formatted CONFIGURE_DEPENDS
   ${CMAKE_SOURCE_DIR}/e2e/*.h ${CMAKE_SOURCE_DIR}/e2e/*.cpp
   ${CMAKE_SOURCE_DIR}/bench/*.h ${CMAKE_SOURCE_DIR}/bench/*.cpp
   ${CMAKE_SOURCE_DIR}/fuzz/*.h ${CMAKE_SOURCE_DIR}/fuzz/*.cpp
+  ${CMAKE_SOURCE_DIR}/help/*.h ${CMAKE_SOURCE_DIR}/help/*.cpp
   ${CMAKE_SOURCE_DIR}/languages/*.cpp
   ${CMAKE_SOURCE_DIR}/orec/*.h ${CMAKE_SOURCE_DIR}/orec/*.cpp
   ${CMAKE_SOURCE_DIR}/resources/*.h ${CMAKE_SOURCE_DIR}/resources/*.cpp)

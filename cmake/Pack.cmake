@@ -32,13 +32,17 @@ function(sk2_pack name version description)
 endfunction()
 
 file(GLOB languages CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/languages/*.lng)
+file(GLOB licences CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/licences/*)
 sk2_pack(sk2pack ${PROJECT_VERSION} "Skidrun2 Utility Pack")
 set_target_properties(sk2pack PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/pack LINK_DEPENDS "${languages}")
 add_custom_command(TARGET sk2pack POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_BINARY_DIR}/pack/languages
   COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/pack/languages
   COMMAND ${CMAKE_COMMAND} -E copy ${languages} ${CMAKE_BINARY_DIR}/pack/languages
-  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_BINARY_DIR}/pack/LICENSE.txt)
+  COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_BINARY_DIR}/pack/LICENSE.txt
+  # Of what others have written in it.
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_BINARY_DIR}/pack/licences
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/licences ${CMAKE_BINARY_DIR}/pack/licences)
 
 add_dependencies(sk2pack orec)
 
