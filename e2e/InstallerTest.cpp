@@ -230,6 +230,24 @@ TEST_F(Installer, CanBeCancelledOnItsFirstPage) {
   EXPECT_FALSE(InstalledEntry::Exists());
 }
 
+TEST_F(Installer, AsksForAnOpenPackToBeClosedBeforeItInstalls) {
+  PutFolder();
+  const Pack pack(program());
+  const std::string version = ShortVersionOf(NextInstaller());
+  const RunningProgram setup(NextInstaller(), "/D=" + programFolder());
+  AllowSetForegroundWindow(setup.processId());
+  const std::string title = "Skidrun2 Utility Pack " + version + " Setup";
+  WaitForTitle(title + ": Installation Folder");
+  Keyboard::Press("Enter");
+  const Window box = WaitForTitle(title);
+  EXPECT_EQ(ReadBox(box).text, "The pack is open. Close it, and choose Retry.");
+  Keyboard::Press("Escape");
+  WaitForTitle(title + ": Installation Folder");
+  Keyboard::Press("Escape");
+  EXPECT_EQ(setup.WaitForEnd(), 2U);
+  EXPECT_EQ(ReadFile(programFolder() + "\\LICENSE.txt"), "the old one");
+}
+
 // --- As the pack starts it ---
 
 TEST_F(Installer, ShowsThatItWaitsForThePackAndThenUpdatesAndOpensIt) {
@@ -308,6 +326,7 @@ TEST_F(Installer, TakesBackAllIfAFileCannotBeReplaced) {
   EXPECT_EQ(FilesOfThePack(programFolder()), before);
   EXPECT_THAT(Log(), HasSubstr("sk2pack.chm cannot be replaced (system error "));
   EXPECT_THAT(Log(), HasSubstr("The old version is whole again"));
+  EXPECT_THAT(Log(), testing::StartsWith("Installing Skidrun2 Utility Pack 1.0.1 in "));
   EXPECT_EQ(StartedPack(program()).WaitForMain().text(), "Skidrun2 Utility Pack V1.0");
   ExpectUsersFiles(programFolder());
 }
