@@ -18,9 +18,11 @@ function(sk2_installer name version folder output)
     BYPRODUCTS ${files} VERBATIM)
   add_dependencies(${name}-files ${ARGN})
   add_custom_command(OUTPUT ${output}
-    COMMAND ${MAKENSIS} -V2 -WX -NOCD -DVERSION=${version} -DFILES=${files} -DOUTPUT=${output}
+    COMMAND ${MAKENSIS} -V2 -WX -NOCD -DVERSION=${version} -DFILES=${files} -DOUTPUT=${output}.part
       -DICON=${CMAKE_SOURCE_DIR}/resources/sk2pack.ico -DSITE=${SK2_MAKER_SITE}
       -X!addincludedir\ ${CMAKE_SOURCE_DIR}/installer ${CMAKE_SOURCE_DIR}/installer/sk2up.nsi
+    # Half an installer, of a build that was broken off, must not pass for one.
+    COMMAND ${CMAKE_COMMAND} -E rename ${output}.part ${output}
     DEPENDS ${name}-files ${files} ${installer_sources} ${CMAKE_SOURCE_DIR}/resources/sk2pack.ico
     COMMENT "Making ${output}" VERBATIM)
   add_custom_target(${name} ALL DEPENDS ${output})

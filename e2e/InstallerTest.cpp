@@ -58,6 +58,11 @@ class Installer : public PackTest {
     WriteFile(folder + "\\sk2pack.cfg", "!\r\n");
     WriteFile(folder + "\\iplist.dat", "Here=203.0.113.7\r\n");
   }
+  static void RemoveUsersFiles(const std::string& folder) {
+    for (const char* name : {"sk2pack.lng", "sk2pack.cfg", "iplist.dat"}) {
+      DeleteFileA((folder + "\\" + name).c_str());
+    }
+  }
   static void ExpectUsersFiles(const std::string& folder) {
     // The pack adds the texts that are missing when it runs.
     EXPECT_THAT(ReadFile(folder + "\\sk2pack.lng"), testing::StartsWith("XFile=&Mine\r\n"));
@@ -67,7 +72,7 @@ class Installer : public PackTest {
 
   // The folder's files, but not those that change by themselves: the log, and what a pack that was
   // started adds to its texts.
-  static std::map<std::string, std::string> FilesOfThePack(const std::string& folder) {
+  static std::map<std::string, FileBytes> FilesOfThePack(const std::string& folder) {
     auto files = FilesIn(folder);
     for (const char* name : {"sk2up.log", "sk2pack.lng", "orvsk2packupdater.exe"})
       files.erase(name);
@@ -98,6 +103,7 @@ TEST_F(Installer, InstallsForTheUserWithAnEntryInTheListOfPrograms) {
   ASSERT_EQ(Install(Given().installer, "/S"), 0U);
   const std::string folder = InstalledEntry::Text("InstallLocation");
   EXPECT_THAT(folder, HasSubstr("\\AppData\\Local\\Programs\\SK2Pack"));
+  RemoveUsersFiles(folder);
   auto files = FilesIn(folder);
   EXPECT_EQ(files.erase("uninstall.exe"), 1U);
   EXPECT_EQ(files, FilesIn(Given().pack));
@@ -109,7 +115,7 @@ TEST_F(Installer, InstallsForTheUserWithAnEntryInTheListOfPrograms) {
   EXPECT_EQ(InstalledEntry::Text("UninstallString"), "\"" + folder + "\\uninstall.exe\"");
   EXPECT_EQ(InstalledEntry::Text("QuietUninstallString"), "\"" + folder + "\\uninstall.exe\" /S");
   size_t bytes = 0;
-  for (const auto& [name, contents] : files) bytes += contents.size();
+  for (const auto& [name, contents] : files) bytes += contents.size;
   EXPECT_NEAR(InstalledEntry::Number("EstimatedSize"), bytes / 1024.0, files.size());
   EXPECT_TRUE(Exists(StartMenuEntry()));
   EXPECT_FALSE(IsRunning(folder + "\\sk2pack.exe"));
@@ -124,9 +130,7 @@ TEST_F(Installer, InstallsForTheUserWithAnEntryInTheListOfPrograms) {
   // Nor does a new installation touch them, whatever language it is asked for.
   ASSERT_EQ(Install(NextInstaller(), "/lang=Deutsch /S"), 0U);
   ExpectUsersFiles(folder);
-  for (const char* name : {"sk2pack.lng", "sk2pack.cfg", "iplist.dat"}) {
-    DeleteFileA((folder + "\\" + name).c_str());
-  }
+  RemoveUsersFiles(folder);
   UninstallQuietly();
   WaitUntil("the folder gone", [&] { return !Exists(folder); });
 }
@@ -160,6 +164,10 @@ TEST_F(Installer, IsNotUninstalledWhileThePackRuns) {
 // --- The pages ---
 
 TEST_F(Installer, IsWorkedByTheKeyboardAlone) {
+  // Nothing of another run's user in the folder that it proposes.
+  ASSERT_EQ(Install(NextInstaller(), "/S"), 0U);
+  RemoveUsersFiles(InstalledEntry::Text("InstallLocation"));
+  UninstallQuietly();
   const std::string version = ShortVersionOf(NextInstaller());
   const std::string title = "Skidrun2 Utility Pack " + version + " Setup";
   const RunningProgram setup(NextInstaller());
@@ -228,6 +236,24 @@ TEST_F(Installer, CanBeCancelledOnItsFirstPage) {
   Keyboard::Press("Escape");
   EXPECT_EQ(setup.WaitForEnd(), 2U);
   EXPECT_FALSE(InstalledEntry::Exists());
+}
+
+TEST_F(Installer, AsksForAnOpenPackToBeClosedBeforeItInstalls) {
+  PutFolder();
+  const Pack pack(program());
+  const std::string version = ShortVersionOf(NextInstaller());
+  const RunningProgram setup(NextInstaller(), "/D=" + programFolder());
+  AllowSetForegroundWindow(setup.processId());
+  const std::string title = "Skidrun2 Utility Pack " + version + " Setup";
+  WaitForTitle(title + ": Installation Folder");
+  Keyboard::Press("Enter");
+  const Window box = WaitForTitle(title);
+  EXPECT_EQ(ReadBox(box).text, "The pack is open. Close it, and choose Retry.");
+  Keyboard::Press("Escape");
+  WaitForTitle(title + ": Installation Folder");
+  Keyboard::Press("Escape");
+  EXPECT_EQ(setup.WaitForEnd(), 2U);
+  EXPECT_EQ(ReadFile(programFolder() + "\\LICENSE.txt"), "the old one");
 }
 
 // --- As the pack starts it ---
@@ -308,6 +334,7 @@ TEST_F(Installer, TakesBackAllIfAFileCannotBeReplaced) {
   EXPECT_EQ(FilesOfThePack(programFolder()), before);
   EXPECT_THAT(Log(), HasSubstr("sk2pack.chm cannot be replaced (system error "));
   EXPECT_THAT(Log(), HasSubstr("The old version is whole again"));
+  EXPECT_THAT(Log(), testing::StartsWith("Installing Skidrun2 Utility Pack 1.0.1 in "));
   EXPECT_EQ(StartedPack(program()).WaitForMain().text(), "Skidrun2 Utility Pack V1.0");
   ExpectUsersFiles(programFolder());
 }

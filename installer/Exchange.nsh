@@ -81,8 +81,7 @@ Function KeepFile
   System::Call 'kernel32::CopyFileW(w "$Target", w "$INSTDIR\${KEPT}$Folder\$File", i 0) i .r1 ? e'
   Pop $0
   ${If} $1 = 0
-    StrCpy $Failure "$Target cannot be read ${Cause}."
-    StrCpy $Code ${NOT_PREPARED}
+    ${Fail} ${NOT_PREPARED} "$Target cannot be read ${Cause}."
   ${EndIf}
 FunctionEnd
 
@@ -96,8 +95,7 @@ Function ExchangeFile
   StrCpy $2 $Target
   Call Replace
   ${If} $0 <> 0
-    StrCpy $Failure "$Target cannot be replaced ${Cause}. Close what uses it and try again."
-    StrCpy $Code ${NOT_INSTALLED}
+    ${Fail} ${NOT_INSTALLED} "$Target cannot be replaced ${Cause}. Close what uses it and try again."
   ${EndIf}
 FunctionEnd
 
@@ -155,6 +153,7 @@ Function Unpack
   ${EndIf}
   Call JudgeProgramFolder
   ${If} $Failure != ""
+    ${Log} "$Failure"
     Return
   ${EndIf}
   RMDir /r "$INSTDIR\${STAGED}"
@@ -166,8 +165,7 @@ Function Unpack
   ; Whoever stands in a folder keeps it from being removed.
   SetOutPath "$TEMP"
   ${If} ${Errors}
-    StrCpy $Failure "The files cannot be unpacked in $INSTDIR."
-    StrCpy $Code ${NOT_PREPARED}
+    ${Fail} ${NOT_PREPARED} "The files cannot be unpacked in $INSTDIR."
     RMDir /r "$INSTDIR\${STAGED}"
   ${EndIf}
 FunctionEnd
@@ -189,13 +187,10 @@ Function Exchange
     StrCpy $0 "$INSTDIR\$Program.exe"
     Call VersionOf
     ${If} $0 != "${VERSION}"
-      StrCpy $Failure "What was installed is not version ${VERSION} but '$0'."
-      StrCpy $Code ${NOT_INSTALLED}
+      ${Fail} ${NOT_INSTALLED} "What was installed is not version ${VERSION} but '$0'."
     ${EndIf}
   ${EndIf}
   ${If} $Failure != ""
-    ; First, so that the log can be read in order.
-    ${Log} "$Failure"
     Call TakeBack
     Return
   ${EndIf}

@@ -23,6 +23,14 @@ Function Log
   Pop $0
 FunctionEnd
 
+; Says what went wrong, and with which exit code it ends.
+!define Fail "!insertmacro Fail"
+!macro Fail CODE TEXT
+  StrCpy $Failure "${TEXT}"
+  StrCpy $Code ${CODE}
+  ${Log} "$Failure"
+!macroend
+
 Function OpenLog
   CreateDirectory "$INSTDIR"
   StrCpy $LogPath "$INSTDIR\${LOG_NAME}"
@@ -41,7 +49,7 @@ Function CloseLog
   Delete "$LogPath"
 FunctionEnd
 
-; Says what went wrong, where boxes are wanted.
+; Tells what went wrong, where boxes are wanted.
 Function TellFailure
   ${If} $HasBoxes = 1
     MessageBox MB_OK|MB_ICONSTOP "$Failure" /SD IDOK

@@ -60,7 +60,6 @@ Function WaitForPack
     IntOp $2 $2 - 1
   ${Loop}
   ${If} $1 = 1
-    StrCpy $Failure "The pack has not ended. Close it and try again."
-    StrCpy $Code ${STILL_IN_USE}
+    ${Fail} ${STILL_IN_USE} "The pack has not ended. Close it and try again."
   ${EndIf}
 FunctionEnd

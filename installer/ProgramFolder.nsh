@@ -85,12 +85,12 @@ Function JudgeProgramFolder
     CreateDirectory "$INSTDIR"
   ${EndIf}
   ClearErrors
-  FileOpen $0 "$INSTDIR\${LOG_NAME}" w
+  FileOpen $0 "$INSTDIR\${PROBE}" w
   ${If} ${Errors}
     StrCpy $Failure "You may not write to $INSTDIR. The pack keeps its texts and settings there: choose a folder of your own."
   ${Else}
     FileClose $0
-    Delete "$INSTDIR\${LOG_NAME}"
+    Delete "$INSTDIR\${PROBE}"
     ; The new files, a copy of the old ones, and a little more.
     System::Call 'kernel32::GetDiskFreeSpaceExW(w "$INSTDIR", *l .r1, p 0, p 0) i .r3'
     System::Int64Op $1 / 1024

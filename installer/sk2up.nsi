@@ -27,6 +27,7 @@ ManifestSupportedOS all
 !define STAGED "sk2up.new"  ; where the new files lie until all of them are there
 !define KEPT "sk2up.old"    ; where the old ones lie until the new ones are in their places
 !define LOG_NAME "sk2up.log"
+!define PROBE "sk2up.tmp"   ; written to see whether the folder can be written to
 !define UNINSTALLER "uninstall.exe"
 !define SHORTCUT "$SMPROGRAMS\${PRODUCT}.lnk"
 !define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\SK2Pack"
@@ -124,8 +125,7 @@ Section
       Call StartPack
     ${EndIf}
   ${Else}
-    ${Log} "$Failure"
-    ${Log} "Setup ends with code $Code."
+    ${Log} "Setup ends with code $Code"
     SetErrorLevel $Code
     Call TellFailure
     ; A pack that did not end is there still.

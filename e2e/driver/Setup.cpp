@@ -4,6 +4,7 @@
 #include <shlobj.h>
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 
@@ -82,12 +83,13 @@ std::string ShortVersionOf(const std::string& path) {
   return numbers.substr(0, numbers.rfind('.'));
 }
 
-std::map<std::string, std::string> FilesIn(const std::string& folder) {
-  std::map<std::string, std::string> files;
+std::map<std::string, FileBytes> FilesIn(const std::string& folder) {
+  std::map<std::string, FileBytes> files;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
     if (!entry.is_regular_file()) continue;
     const std::string path = entry.path().string();
-    files[path.substr(folder.size() + 1)] = ReadFile(path);
+    const std::string bytes = ReadFile(path);
+    files[path.substr(folder.size() + 1)] = {bytes.size(), std::hash<std::string>{}(bytes)};
   }
   return files;
 }

@@ -25,8 +25,13 @@ VersionResource VersionOf(const std::string& path);
 // The first three numbers, "1.0.0".
 std::string ShortVersionOf(const std::string& path);
 
-// Every file in a folder and below it, with its bytes.
-std::map<std::string, std::string> FilesIn(const std::string& folder);
+// Every file in a folder and below it, with what tells its bytes from others.
+struct FileBytes {
+  size_t size;
+  size_t hash;
+  bool operator==(const FileBytes&) const = default;
+};
+std::map<std::string, FileBytes> FilesIn(const std::string& folder);
 
 // The entry of the installed pack in the system's list of programs.
 namespace InstalledEntry {

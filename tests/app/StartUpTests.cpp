@@ -237,7 +237,7 @@ TEST(StartUp, WhateverStepFailsDoesTheOthersInTheirOrder) {
       return;
     }
     std::vector<std::string> missed;
-    if (call == "Delete " + Updater) missed = {"updater left"};
+    // A left-over updater that cannot be deleted is tried again, and so is not missed.
     if (call.starts_with("ReadProgramVersion")) missed = {"Skidrun2 Utility Pack Alpha0"};
     if (call.starts_with("HoldNamedMutex")) missed = {"no mutex"};
     if (call.starts_with("OpenSoundDevice")) missed = {"no sound"};
