@@ -431,12 +431,12 @@ TEST_F(FilesContract, AFileThatIsGuardedStaysAsItIs) {
     EXPECT_EQ(ReadToEnd(reader), "old");
   }
   WriteWholeFile(path, "new");
-  const auto guard = [](const std::string& file) {
+  const auto guarding = [](const std::string& file) {
     return [file] { const Platform::FileGuard guard(file); };
   };
-  EXPECT_TRUE(FailsWith(RuntimeError::FileNotFound, In("none.exe"), guard(In("none.exe"))));
+  EXPECT_TRUE(FailsWith(RuntimeError::FileNotFound, In("none.exe"), guarding(In("none.exe"))));
   TestMachine::Hold(path, Sharing::ForWriting);
-  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, guard(path)));
+  EXPECT_TRUE(FailsWith(RuntimeError::PermissionDenied, path, guarding(path)));
 }
 
 // --- FileWriter ---
