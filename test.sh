@@ -27,6 +27,7 @@ gtest_suite "contracts on the machine of the console programs" out/host/tests/po
 wait_for_background
 bench_suites out/bench/bench
 check_suite bench-check bench/check/check-folder.py --brief
+check_suite "many players at once" server/load-test.sh --brief
 
 lint_suites() {
   lint_suite "code layout" clang-format cmake --build --preset host --target check-format

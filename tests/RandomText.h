@@ -25,12 +25,12 @@ class RandomText {
   std::string Mutated(std::string text) {
     for (size_t times = Below(4); times > 0 && !text.empty(); --times) {
       const size_t at = Below(text.size());
-      const char byte =
+      const char other =
           OneIn(2) ? "\r\n=-+. ,0159eE()&H\t"[Below(18)] : static_cast<char>(Below(256));
       switch (Below(5)) {
-        case 0: text[at] = byte; break;
+        case 0: text[at] = other; break;
         case 1: text.erase(at, 1 + Below(3)); break;
-        case 2: text.insert(at, 1, byte); break;
+        case 2: text.insert(at, 1, other); break;
         case 3: text.insert(at, text.substr(at, Below(20))); break;
         case 4: text.resize(at); break;
       }

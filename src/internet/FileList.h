@@ -23,8 +23,8 @@ class FileList final : public Platform::Form {
   // goes, and Progress stands in its place; in the end comes the window from which the list's own
   // opener came, or after a failure the choice of a kind.
   //   fileName  from the server's list; a carriage return at its end does not count. One that is
-  //             not installable, as ComponentPlaces::IsInstallable has it, is told as a failed download,
-  //             and nothing is fetched.
+  //             not installable, as ComponentPlaces::IsInstallable has it, is told as a failed
+  //             download, and nothing is fetched.
   // Fails as Application::GameFolder does, with the list still there, and as Archive::Extract does.
   void DownloadComponent(const std::string& fileName, int kind);
 

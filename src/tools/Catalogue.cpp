@@ -49,7 +49,8 @@ class Reader {
   Reader(const std::string& folder, Faults& faults) : folder_(folder), faults_(faults) {}
 
   Contents Read() {
-    if (!Platform::FileExists(folder_)) throw RuntimeError(RuntimeError::PathNotFound, folder_);
+    const bool isFolder = Platform::FileExists(folder_) && !Platform::StampOf(folder_);
+    if (!isFolder) throw RuntimeError(RuntimeError::PathNotFound, folder_);
     JudgeTop();
     for (int kind = 0; kind < ComponentPlaces::Count; ++kind) ReadKind(kind);
     ReadSoftware();

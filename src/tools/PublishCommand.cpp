@@ -70,9 +70,9 @@ Exit status: 0 published, or nothing had changed; 1 refused, the site is as it
 was; 2 the folder could not be read or the site not written, the site is as it was.
 )";
 
-// As this system writes paths in what it says.
-std::string Shown(const std::string& path) {
-  return Platform::ToUtf8(Text::Replace(path, "\\", "/"));
+// What is told, with "/" between folders on every system, as addresses have it too.
+std::string Shown(const std::string& text) {
+  return Platform::ToUtf8(Text::Replace(text, "\\", "/"));
 }
 
 // A path as the program's own files have it, without a separator at its end.
@@ -192,7 +192,7 @@ int Run(const std::vector<std::string>& arguments, const Build& build, std::ostr
     return Publish(*call, build, out, errors);
   } catch (const std::exception& error) {
     const std::string text = Text::Replace(FailureText(error), Text::LineEnd, "\n");
-    errors << "sk2publish: " << Platform::ToUtf8(text) << "\n";
+    errors << "sk2publish: " << Shown(text) << "\n";
     return Failed;
   }
 }

@@ -116,21 +116,26 @@ int64_t FindVehicleFaults(Platform::FileLines& lines, const VehicleSounds& sound
                           const FaultTaker& take) {
   Checker checker(sounds);
   int64_t count = 0;
-  std::string_view line;
-  while (lines.Next(line)) {
-    ++count;
-    Found fault;
+  const auto goesOnBehind = [&](Fault fault) {
+    fault.line = count;
+    return take(fault);
+  };
+  for (;;) {
+    // Around all lines and not around each, since hardly any holds such a number.
     try {
-      fault = checker.FaultOf(line);
+      std::string_view line;
+      while (lines.Next(line)) {
+        ++count;
+        if (auto fault = checker.FaultOf(line); fault && !goesOnBehind(std::move(*fault))) break;
+      }
+      return count;
     } catch (const RuntimeError& error) {
       if (error.number() != RuntimeError::Overflow) throw;
-      fault = FaultWith(VehicleFault::Unreadable, GetLangString(CauseOf(error)));
+      if (!goesOnBehind(FaultWith(VehicleFault::Unreadable, GetLangString(CauseOf(error))))) {
+        return count;
+      }
     }
-    if (!fault) continue;
-    fault->line = count;
-    if (!take(*fault)) break;
   }
-  return count;
 }
 
 VehicleSounds SoundsBeside(const std::string& path) {

@@ -32,6 +32,45 @@ inline void AddTexts(int count, unsigned seed, Files& files) {
   }
 }
 
+// Names as only some of them lead to a file on a Windows disk.
+inline void AddNames(Files& files) {
+  files["names/H\xC3\xBCgel.wav"] = "";
+  files["names/Deep/Horn.wav"] = "";
+  int number = 0;
+  for (const char* name : {"H\xFCgel.wav",
+                           "h\xDCGEL.WAV",
+                           "hugel.wav",
+                           "H\xFCgel.wav.",
+                           "H\xFCgel.wav ",
+                           "H\xFCgel.wav . .",
+                           " H\xFCgel.wav",
+                           "H\xFCgel.wav\\",
+                           "deep",
+                           "DEEP/",
+                           "deep\\horn.wav",
+                           "deep/HORN.wav",
+                           "deep\\\\horn.wav",
+                           "deep\\..\\h\xFCgel.wav",
+                           "none\\..\\h\xFCgel.wav",
+                           "..\\names\\deep",
+                           "..\\NAMES/h\xFCgel.wav",
+                           "deep\\horn.wav\\x",
+                           ".",
+                           "..",
+                           "...",
+                           "nul",
+                           "nul.wav",
+                           "h?gel.wav",
+                           "*",
+                           "",
+                           " ",
+                           "deep\\.\\horn.wav",
+                           "deep\\horn.wav:x",
+                           "\x81\x8D.wav"}) {
+    files[Numbered("names/n", number++, ".vhc")] = "enginesound=" + std::string(name) + "\r\n";
+  }
+}
+
 // Lines beyond the length at which they come in pieces.
 inline void AddLongLines(Files& files) {
   RandomText random(77);
@@ -99,6 +138,7 @@ inline void AddPackages(Files& files) {
 inline Files All() {
   Files files;
   AddTexts(400, 4, files);
+  AddNames(files);
   AddLongLines(files);
   AddRecordsAndLanguages(files);
   AddPackages(files);

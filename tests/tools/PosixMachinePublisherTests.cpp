@@ -2,7 +2,6 @@
 // this system has.
 #include <fcntl.h>
 #include <gmock/gmock.h>
-#include <linux/ptrace.h>
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/ptrace.h>

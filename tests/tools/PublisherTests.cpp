@@ -421,10 +421,13 @@ TEST_F(Publishing, TellsAllFaultsInOneRun) {
 // --- What cannot be looked at or written ---
 
 TEST_F(Publishing, SaysThatThereIsNoFolder) {
-  const Told told = PublishWith({"C:\\None", Site});
-  EXPECT_EQ(told.status, PublishCommand::Failed);
-  EXPECT_EQ(told.errors, "sk2publish: The folder was not found.\nFile: C:\\None\n");
-  EXPECT_FALSE(machine.files.Exists(Site));
+  for (const char* folder : {"C:\\None", "C:\\Offer\\cars\\coach.zip"}) {
+    const Told told = PublishWith({folder, Site});
+    EXPECT_EQ(told.status, PublishCommand::Failed);
+    EXPECT_EQ(told.errors, "sk2publish: The folder was not found.\nFile: " +
+                               Text::Replace(folder, "\\", "/") + "\n");
+    EXPECT_FALSE(machine.files.Exists(Site));
+  }
 }
 
 TEST_F(Publishing, NeedsAFolderAndASiteThatDoNotLieInEachOther) {

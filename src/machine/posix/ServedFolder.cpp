@@ -41,7 +41,7 @@ std::string ServedState(const std::string& site) {
   std::array<char, PATH_MAX> target{};
   const ssize_t length = readlink(place.c_str(), target.data(), target.size());
   if (length < 0 && errno == ENOENT) return "";
-  const std::string state(target.data(), length < 0 ? 0 : static_cast<size_t>(length));
+  std::string state(target.data(), length < 0 ? 0 : static_cast<size_t>(length));
   for (const char* ours : States) {
     if (state == ours) return state;
   }
