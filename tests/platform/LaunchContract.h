@@ -72,8 +72,10 @@ TEST_F(LaunchContract, WhatIsNoProgramFails) {
 TEST_F(LaunchContract, AProgramThatIsGuardedIsStarted) {
   const std::string program = folder + "\\setup.exe";
   TestMachine::PutProgram(program);
-  const Platform::FileGuard guard(program);
-  Platform::LaunchMinimised(program, "/SILENT");
+  {
+    const Platform::FileGuard guard(program);
+    Platform::LaunchMinimised(program, "/SILENT");
+  }
   EXPECT_EQ(TestMachine::StartOf(program).arguments, "/SILENT");
 }
 

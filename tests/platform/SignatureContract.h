@@ -94,6 +94,6 @@ TEST_F(SignatureContract, AKeyThatIsNoPointOfTheCurveIsRightForNothing) {
     EXPECT_FALSE(Platform::IsSignatureRight(SumOfText(Contents), Signature, std::string(64, '\1')));
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.number(), RuntimeError::DeviceError);
-    EXPECT_EQ(error.system().step.key, SignatureTexts.CheckingSignature.key);
+    EXPECT_STREQ(error.system().step.key, SignatureTexts.CheckingSignature.key);
   }
 }

@@ -51,7 +51,7 @@ std::vector<Scene> UpdateScenes() {
         "<UpdateSignatureWrong>",
         "box <UpdateTitle>: <UpdateText1> Skidrun2 Utility Pack.\r\n"
         "<CurrentVersion>: 1.0.0\r\n<VersionAvailable>: 1\r\n<UpdateText2>",
-        "box <RTETitle>: <RTEDeviceError>\r\n<CheckingSignature>: <RTESystemError> 3221225485"}},
+        "box <RTETitle>: <RTEDeviceError>\r\n<CheckingSignature>: <RTESystemError> 0xC000000D"}},
 
       {"the option to look for updates at the start",
        [](Player& player) {
