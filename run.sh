@@ -3,6 +3,8 @@
 #
 #   ./run.sh          until it is closed; without a display or sound hardware, on virtual ones
 #   ./run.sh --once   always on a virtual display; ends after a picture of the main window
+#   ./run.sh --tour   the pack does its main jobs by itself, on a virtual display and with a virtual
+#                     microphone; tells what came of each, and leaves numbered pictures in out/tour
 #
 # The copy of the game is out/run/Skidrun2, the program's folder out/run/SK2Pack; both are kept. All
 # that the pack fetches comes from a small web site of its own, for which no internet is needed.
@@ -14,11 +16,13 @@ cd "$(dirname "$0")"
 . scripts/game.sh
 
 once=
+tour=
 case "${1:-}" in
   "") ;;
   --once) once=1 ;;
+  --tour) tour=1 ;;
   *)
-    echo "usage: ./run.sh [--once]" >&2
+    echo "usage: ./run.sh [--once | --tour]" >&2
     exit 2
     ;;
 esac
@@ -28,6 +32,14 @@ trap 'exit 130' INT
 trap 'exit 143' TERM
 
 install_packages "${pack_packages[@]}"
+if [ -n "$tour" ]; then
+  install_packages "${test_packages[@]}" "${sound_packages[@]}"
+  build windows sk2pack tour
+  build tools sk2publish
+  . scripts/tour.sh
+  take_tour
+  exit
+fi
 build windows sk2pack windowpicture
 build tools sk2publish
 enter_machine out/run

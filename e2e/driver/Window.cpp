@@ -135,8 +135,9 @@ void Window::WaitUntilDrawn() const {
   const auto isDrawn = [](HWND window) {
     return !IsWindowVisible(window) || !GetUpdateRect(window, nullptr, FALSE);
   };
-  // Drawing comes last: when this is drawn, all that was to be done before it has been.
-  InvalidateRect(handle_, nullptr, FALSE);
+  // Drawing comes last: when this is drawn, all that was to be done before it has been. With all
+  // controls, over which a box draws its background.
+  RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   WaitUntil("\"" + text() + "\" completely drawn", [&] {
     if (!IsVisible()) return true;
     if (!Ask(WM_NULL) || !isDrawn(handle_)) return false;
