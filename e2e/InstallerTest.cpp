@@ -284,7 +284,7 @@ TEST_F(Installer, ShowsThatItWaitsForThePackAndThenUpdatesAndOpensIt) {
   EXPECT_FALSE(InstalledEntry::Exists());
   EXPECT_FALSE(Exists(StartMenuEntry()));
   EXPECT_THAT(NamesIn(programFolder()),
-              UnorderedElementsAre("LICENSE.txt", "iplist.dat", "languages", "orec.dll",
+              UnorderedElementsAre("LICENSE.txt", "iplist.dat", "languages", "licences", "orec.dll",
                                    "sk2pack.cfg", "sk2pack.chm", "sk2pack.exe", "sk2pack.lng"));
 }
 
