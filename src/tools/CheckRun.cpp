@@ -58,7 +58,7 @@ bool IsFolder(const std::string& path) {
 
 bool IsReadable(const std::string& path) {
   try {
-    Platform::FileReader{path};
+    const Platform::FileReader file(path);
     return true;
   } catch (const RuntimeError&) {
     return false;

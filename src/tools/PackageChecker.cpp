@@ -38,7 +38,7 @@ std::string EntryOf(const RuntimeError& error, const std::string& archive) {
 std::unique_ptr<Archive::Inspection> Inspect(const std::string& path,
                                              const PackageFaultTaker& take) {
   // Opened here first, so that a name that cannot be used is the archive's own.
-  Platform::FileReader{path};
+  const Platform::FileReader file(path);
   try {
     return std::make_unique<Archive::Inspection>(path);
   } catch (const RuntimeError& error) {
