@@ -12,6 +12,7 @@
 struct WideStartInfo {
   int newMode;
 };
+// NOLINTNEXTLINE(bugprone-reserved-identifier): so it is called
 extern "C" __declspec(dllimport) int __cdecl __wgetmainargs(int* count, wchar_t*** arguments,
                                                             wchar_t*** environment, int expands,
                                                             WideStartInfo* info);
