@@ -41,7 +41,8 @@ class Checker {
 
  private:
   void TakeLines(Platform::FileLines& lines);
-  void TakeLine(std::string_view line);
+  // Returns whether the next line is wanted.
+  bool TakeLine(std::string_view line);
   void TakeUnconverted(const RuntimeError& error);
   void FailNotNumeric();
   void FailOutOfRange();
@@ -95,23 +96,30 @@ TrackSummary Checker::Check(Platform::FileLines& lines) {
 
 void Checker::TakeLines(Platform::FileLines& lines) {
   std::string_view line;
-  while (position_ != Weather && !isOver_ && lines.Next(line)) {
+  while (position_ != Weather && lines.Next(line)) {
     ++lines_;
     ++position_;
-    TakeLine(line);
+    if (!TakeLine(line)) return;
   }
 }
 
-void Checker::TakeLine(std::string_view line) {
+bool Checker::TakeLine(std::string_view line) {
   const auto value = Platform::ParseWhole(line);
-  if (!value) return FailNotNumeric();
+  if (!value) [[unlikely]] {
+    FailNotNumeric();
+    return !isOver_;
+  }
   // Any number but -1 behind a complete part begins the next part, one that is no curve included:
   // the fault is then told as that part's.
   if (position_ == End && *value != EndMarker) {
     ++part_;
     position_ = Curve;
   }
-  if (!Ranges[position_].Holds(*value)) FailOutOfRange();
+  if (!Ranges[position_].Holds(*value)) [[unlikely]] {
+    FailOutOfRange();
+    return !isOver_;
+  }
+  return true;
 }
 
 // A number that does not fit 32 bits, or a text where the next part or the weather may begin.

@@ -116,24 +116,24 @@ int64_t FindVehicleFaults(Platform::FileLines& lines, const VehicleSounds& sound
                           const FaultTaker& take) {
   Checker checker(sounds);
   int64_t count = 0;
-  const auto goesOnBehind = [&](Fault fault) {
-    fault.line = count;
-    return take(fault);
-  };
   for (;;) {
     // Around all lines and not around each, since hardly any holds such a number.
     try {
       std::string_view line;
       while (lines.Next(line)) {
         ++count;
-        if (auto fault = checker.FaultOf(line); fault && !goesOnBehind(std::move(*fault))) break;
+        auto fault = checker.FaultOf(line);
+        if (!fault) [[likely]] {
+          continue;
+        }
+        fault->line = count;
+        if (!take(*fault)) break;
       }
       return count;
     } catch (const RuntimeError& error) {
       if (error.number() != RuntimeError::Overflow) throw;
-      if (!goesOnBehind(FaultWith(VehicleFault::Unreadable, GetLangString(CauseOf(error))))) {
-        return count;
-      }
+      const Fault fault{count, VehicleFault::Unreadable, GetLangString(CauseOf(error))};
+      if (!take(fault)) return count;
     }
   }
 }
