@@ -33,7 +33,7 @@ trap 'exit 143' TERM
 
 install_packages "${pack_packages[@]}"
 if [ -n "$tour" ]; then
-  install_packages "${test_packages[@]}" "${sound_packages[@]}"
+  install_packages "${sound_packages[@]}"
   build windows sk2pack tour
   build tools sk2publish
   . scripts/tour.sh

@@ -2,12 +2,12 @@
 
 # The packages that building and running the pack takes, those of its makers, and those that its
 # tests take besides.
-pack_packages=(cmake ninja-build g++ zlib1g-dev libssl-dev g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest
+pack_packages=(cmake ninja-build g++ zlib1g-dev libssl-dev openssl g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest
   fp-utils wine wine64 fonts-wine fonts-dejavu-core xvfb pulseaudio-utils nginx-light nsis python3)
 # Publishing, and serving what was published.
 server_packages=(cmake ninja-build g++ zlib1g-dev libssl-dev nginx-light)
 test_packages=(libgtest-dev libgmock-dev clang libclang-rt-dev clang-format clang-tidy
-  zip unzip p7zip-full libarchive-tools openssl)
+  zip unzip p7zip-full libarchive-tools)
 # Speakers without hardware. Where there are real ones another sound server may be at work, which
 # this one would push out.
 sound_packages=(pulseaudio)
